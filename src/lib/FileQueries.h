@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstdint>
+
+/// 1 if anything stands at the path, a directory too; otherwise 0.
+int FileExists(const char* pszPath);
+
+/// Length in bytes; 0 if the file cannot be opened, so an empty file and a missing one look alike. A
+/// directory has no length: 0.
+std::int64_t FileSize(const char* pszPath);

@@ -1,0 +1,3 @@
+#include "lib/Language.h"
+
+int g_nLanguage = kEnglish;

@@ -1,0 +1,36 @@
+#include "lib/Log.h"
+
+#include <cstdio>
+
+namespace {
+
+#ifdef NDEBUG
+constexpr LogSink kStandardSink = nullptr;
+#else
+void WriteToStandardError(const char* psz) { std::fprintf(stderr, "%s\n", psz); }
+constexpr LogSink kStandardSink = WriteToStandardError;
+#endif
+
+LogSink g_sink = kStandardSink;
+
+} // namespace
+
+LogSink SetLogSink(LogSink sink)
+{
+    const LogSink before = g_sink;
+    g_sink = sink;
+    return before;
+}
+
+void LogText(LibString text)
+{
+    if (g_sink != nullptr) {
+        g_sink(text.GetText());
+    }
+}
+
+int LogLine(const LibString& text)
+{
+    LogText(text);
+    return 0;
+}
