@@ -1,0 +1,2 @@
+#include "model/OrrevaData.h"
+int COrrevaData::Save() { return 1; }
