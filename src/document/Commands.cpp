@@ -1,0 +1,107 @@
+#include "document/Commands.h"
+
+#include <algorithm>
+
+namespace {
+
+namespace id = command_id;
+using Doc = COrrevaDoc;
+using enum Enabled;
+
+constexpr Command Desktop(std::int32_t command, Enabled enabled) { return {command, enabled}; }
+
+constexpr Command Opens(std::int32_t command, Enabled enabled, Modal modal)
+{
+    return {.id = command, .enabled = enabled, .modal = modal, .runs_modal = true};
+}
+
+constexpr Command Switch(std::int32_t command, Enabled enabled, void (Doc::*action)(),
+                         std::uint8_t ViewSwitches::*check, bool inverted = false)
+{
+    return {.id = command, .enabled = enabled, .action = action, .check = check, .check_inverted = inverted};
+}
+
+constexpr Command kCommands[] = {
+    {id::kNewQuick, Always, &Doc::OnFileNewQuick},
+    {id::kNewDetailed, Always, &Doc::OnFileNewDetailed},
+    {id::kOpen, Always, &Doc::OnFileOpen},
+    {id::kSave, Loaded, &Doc::OnFileSave},
+    {id::kSaveAs, Loaded, &Doc::OnFileSaveAs},
+    Desktop(id::kPrint, Loaded),
+    Desktop(id::kPrintPreview, Loaded),
+    Desktop(id::kPrintSetup, Always),
+    Desktop(id::kRecentFile, Never),
+    Desktop(id::kExit, Always),
+    {id::kProperties, Loaded, &Doc::OnProperties},
+    {id::kTubeProperties, Loaded, &Doc::OnTubeProperties},
+    Opens(id::kArtificialStar, Loaded, Modal::ArtificialStar),
+    Opens(id::kFoucaultTest, Loaded, Modal::FoucaultSheet),
+    Opens(id::kMatchingRonchi, Loaded, Modal::RonchiSheet),
+    Desktop(id::kStartest, Never),
+    Opens(id::kFieldSimulation, Loaded, Modal::FieldSimulation),
+    Switch(id::kRaysParallel, Loaded, &Doc::OnRayParallel, &ViewSwitches::ray_parallel),
+    Switch(id::kRaysFromFocalPlane, Loaded, &Doc::OnRayFromFocalPlane, &ViewSwitches::ray_from_focal_plane),
+    Switch(id::kRaysFromMouse, Loaded, &Doc::OnRayFromMouse, &ViewSwitches::ray_from_mouse),
+    {id::kRaytracingSettings, Loaded, &Doc::OnRaytracingSettings},
+    Switch(id::kShowWithoutOffset, Loaded, &Doc::OnShowOffset, &ViewSwitches::show_offset, true),
+    Switch(id::kShowExtendedFocuser, Loaded, &Doc::OnShowExtendedFocuser,
+           &ViewSwitches::show_extended_focuser),
+    Switch(id::kShowBoxAndCage, LoadedTruss, &Doc::OnShowBoxAndCage, &ViewSwitches::show_box_and_cage),
+    Desktop(id::kGerman, Always),
+    Desktop(id::kEnglish, Always),
+    Opens(id::kCalculator, Always, Modal::Calculator),
+    Opens(id::kInchCalculator, Always, Modal::InchCalculator),
+    Opens(id::kPolygonCalculator, Always, Modal::PolygonCalculator),
+    Opens(id::kSectorCalculator, Always, Modal::SectorCalculator),
+    Desktop(id::kForum, Always),
+    Desktop(id::kHandbook, Always),
+    Desktop(id::kHelpThemes, Always),
+    Desktop(id::kContextHelp, Always),
+    Desktop(id::kHelp, Always),
+    Desktop(id::kAbout, Always),
+    Desktop(id::kToolkitSave, Always),
+};
+
+} // namespace
+
+std::span<const Command> Commands() { return kCommands; }
+
+const Command* FindCommand(std::int32_t command)
+{
+    const auto found = std::ranges::find(kCommands, command, &Command::id);
+    return found == std::end(kCommands) ? nullptr : found;
+}
+
+bool IsEnabled(const Command& command, COrrevaDoc& document)
+{
+    switch (command.enabled) {
+    case Always:
+        return true;
+    case Loaded:
+        return document.HasFile();
+    case LoadedTruss:
+        return document.HasFile() && document.active_record->GetTubeType() > 0;
+    case Never:
+        break;
+    }
+    return false;
+}
+
+bool IsChecked(const Command& command, const COrrevaDoc& document)
+{
+    return command.check != nullptr && (document.*command.check != 0) != command.check_inverted;
+}
+
+bool RunCommand(std::int32_t command, COrrevaDoc& document)
+{
+    const Command* const found = FindCommand(command);
+    if (found == nullptr || (found->action == nullptr && !found->runs_modal)) {
+        return false;
+    }
+    if (found->action != nullptr) {
+        (document.*found->action)();
+    } else {
+        document.Host().RunModal(found->modal);
+    }
+    return true;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "model/OrrevaData.h"
+
+#include <cstdint>
+#include <string>
+
+/// What a file dialog shows: a filter in pipe notation ("Text|*.ext|...||"), the ending that a name without
+/// one gets, the name that is proposed.
+struct FileDialog {
+    bool saving;
+    const char* filter;
+    const char* default_extension;
+    const char* file_name;
+};
+
+/// The texts of the quick New dialog, as the user leaves them (bytes of code page 1252).
+struct QuickNewTexts {
+    std::string title;
+    std::string aperture;
+    std::string focal_length;
+};
+
+/// The modal sheets and dialogs that commands open; each runs on the current document.
+enum class Modal {
+    TelescopeSheet, ///< also the wizard of New (detailed), by g_nWizard
+    TubeSheet,
+    FoucaultSheet,
+    RonchiSheet,
+    ArtificialStar,
+    FieldSimulation,
+    Calculator,
+    InchCalculator,
+    PolygonCalculator,
+    SectorCalculator,
+};
+
+/// What a document asks of its desktop. The window program implements it with its toolkit, the command-line
+/// companion with the terminal, tests with a recorder.
+class DocumentHost : public RecordHost {
+public:
+    /// The toolkit's own step of a new document; false if it fails.
+    virtual bool OnNewDocument() = 0;
+    /// Every view repaints all it shows.
+    virtual void UpdateAllViews() = 0;
+    /// The path that the user chose (bytes of the file system), empty for Cancel.
+    virtual std::string AskPath(const FileDialog& dialog) = 0;
+    /// The quick New dialog; false for Cancel.
+    virtual bool AskQuickNew(QuickNewTexts& texts) = 0;
+    /// The settings of the ray tracing, opened on the button of `miss_in_grey`; false for Cancel.
+    virtual bool AskRaytracingSettings(std::uint8_t miss_in_grey) = 0;
+    /// Runs a sheet or dialog; false if it ended with Cancel.
+    virtual bool RunModal(Modal modal) = 0;
+};

@@ -1,0 +1,166 @@
+#include "document/OrrevaDoc.h"
+
+#include "document/FileMasks.h"
+#include "lib/CodePage.h"
+#include "lib/Log.h"
+#include "lib/Numbers.h"
+
+COrrevaDoc* g_pCurrentDocument = nullptr;
+int g_nWizard = 0;
+
+// The records clear themselves while the document is being built. It is not the current one then, so that
+// nothing is asked of its host.
+COrrevaDoc::COrrevaDoc(DocumentHost& desktop) : main_record(this), scratch_record(this), host(desktop) {}
+
+COrrevaDoc::~COrrevaDoc()
+{
+    if (g_pCurrentDocument == this) {
+        g_pCurrentDocument = nullptr;
+    }
+}
+
+void COrrevaDoc::SetDocumentTitle(const char* path)
+{
+    if (g_pCurrentDocument == this) {
+        host.SetDocumentTitle(path);
+    }
+}
+
+void COrrevaDoc::Recalculate()
+{
+    COrrevaData& data = *active_record;
+    {
+        // On a fresh record the first read of z is infinite, and with it this angle a NaN.
+        const double z = data.GetFocalPlaneHeight();
+        const double m = data.GetSecondaryDiameter();
+        const double f = data.GetFocalLength();
+        const double D = data.GetMirrorDiameter();
+        field_angle_100 = FullFieldAngle(D, f, m, z);
+    }
+    {
+        const double z = data.GetFocalPlaneHeight();
+        const double m = data.GetSecondaryDiameter();
+        const double f = data.GetFocalLength();
+        const double D = data.GetMirrorDiameter();
+        field_diameter_100 = FullFieldDiameter(D, f, m, z);
+    }
+    mirror_back_position = data.GetDistanceBack();
+    mirror_front_position = data.GetMirrorThickness() + mirror_back_position;
+    data.SetModified(1);
+    UpdateAllViews();
+}
+
+void COrrevaDoc::DropTelescope()
+{
+    active_record->Clear();
+    active_record->SetTitle("");
+    UpdateAllViews();
+}
+
+void COrrevaDoc::OnFileNewQuick()
+{
+    active_record->Reset();
+    QuickNewTexts texts{"Untitleld Telescope", "250", "1500"};
+    if (!host.AskQuickNew(texts)) {
+        DropTelescope();
+        return;
+    }
+    active_record->SetTitle(texts.title.c_str());
+    active_record->SetMirrorDiameter(DecimalValue(texts.aperture.c_str()));
+    active_record->SetFocalLength(DecimalValue(texts.focal_length.c_str()));
+    Recalculate();
+    UpdateAllViews();
+}
+
+void COrrevaDoc::OnFileNewDetailed()
+{
+    if (!host.OnNewDocument()) {
+        return;
+    }
+    g_nWizard = 1;
+    active_record->Reset();
+    field_diameter_100 = 10.0;
+    field_angle_100 = FieldAngle(active_record->GetFocalLength(), 10.0);
+    Recalculate();
+    if (!host.RunModal(Modal::TelescopeSheet)) {
+        DropTelescope();
+        return;
+    }
+    Recalculate();
+    UpdateAllViews();
+}
+
+void COrrevaDoc::OnFileOpen()
+{
+    const std::string path = host.AskPath(kOpenTelescope);
+    if (path.empty()) {
+        return;
+    }
+    active_record->Reset();
+    active_record->Load(path.c_str());
+    Recalculate();
+    active_record->SetModified(0);
+}
+
+void COrrevaDoc::OnFileSave() { active_record->Save(); }
+
+void COrrevaDoc::OnFileSaveAs()
+{
+    const std::string path = host.AskPath(kSaveTelescope);
+    if (!path.empty()) {
+        active_record->SaveAs(path.c_str());
+    }
+}
+
+void COrrevaDoc::OnProperties()
+{
+    if (!HasFile()) {
+        host.ShowMessage("Bitte zuächst 'Datei/Neu' oder 'Datei/Öffnen' anklicken."_cp1252);
+        return;
+    }
+    g_nWizard = 0;
+    if (host.RunModal(Modal::TelescopeSheet)) {
+        Recalculate();
+    }
+}
+
+void COrrevaDoc::OnTubeProperties()
+{
+    main_record.CopyTo(scratch_record);
+    active_record = &scratch_record;
+    LibString line;
+    line.Format("Vorher im Doc: %d", active_record->GetTubeType());
+    LogText(line);
+    if (host.RunModal(Modal::TubeSheet)) {
+        scratch_record.CopyTo(main_record);
+    }
+    active_record = &main_record;
+    Recalculate();
+}
+
+void COrrevaDoc::OnRaytracingSettings()
+{
+    // Kept: OK is a toggle, whichever button the user chose.
+    if (host.AskRaytracingSettings(miss_in_grey)) {
+        miss_in_grey = miss_in_grey == 0 ? 1 : 0;
+        UpdateAllViews();
+    }
+}
+
+void COrrevaDoc::OnCloseDocument() { active_record->Reset(); }
+
+void COrrevaDoc::ToggleRayMode(std::uint8_t ViewSwitches::*mode)
+{
+    const std::uint8_t toggled = this->*mode == 0 ? 1 : 0;
+    ray_parallel = 0;
+    ray_from_focal_plane = 0;
+    ray_from_mouse = 0;
+    this->*mode = toggled;
+    UpdateAllViews();
+}
+
+void COrrevaDoc::ToggleSwitch(std::uint8_t ViewSwitches::*view)
+{
+    this->*view = this->*view == 0 ? 1 : 0;
+    UpdateAllViews();
+}

@@ -1,2 +1,0 @@
-#include "model/OrrevaData.h"
-int COrrevaData::Save() { return 1; }

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "document/OrrevaDoc.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+/// One of the parameters that the what-if bar offers. Its text is German in both languages.
+struct BarParameter {
+    const char* text;
+    double (COrrevaData::*get)();
+    void (COrrevaData::*set)(double);
+};
+
+std::span<const BarParameter> BarParameters();
+
+/// What the slider is to show: whole millimetres; no position leaves it where it stands.
+struct SliderState {
+    std::int32_t low;
+    std::int32_t high;
+    std::optional<std::int32_t> position;
+};
+
+// The bar's events. Each works on the document's table of trials and its active record. ---------------------
+
+/// The list's selection changed: an earlier trial is undone and the chosen parameter put under trial. Nothing
+/// if the selection names no parameter.
+std::optional<SliderState> SelectBarParameter(COrrevaDoc& document, std::int32_t selection);
+
+/// The slider told its position, by being dragged or repainted: the parameter under trial takes it at once.
+void SlideBar(COrrevaDoc& document, std::int32_t position);
+
+/// "Reset": the parameter under trial goes back.
+std::optional<SliderState> ResetBar(COrrevaDoc& document);
+
+/// "Accept ": the present value becomes the one to go back to; the trial goes on from the new centre.
+std::optional<SliderState> AcceptBar(COrrevaDoc& document);

@@ -1,0 +1,108 @@
+#include "document/XmlScanner.h"
+
+#include "lib/FileBytes.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+namespace {
+
+constexpr std::size_t kMostComponents = 32;
+constexpr std::size_t kNotFound = std::string::npos;
+constexpr std::size_t kLargestFile = std::numeric_limits<std::int32_t>::max();
+
+std::size_t Bucket(char c) { return static_cast<unsigned char>(c); }
+
+std::string WithPlainLineEnds(std::string_view text)
+{
+    std::string plain;
+    plain.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r' || i + 1 == text.size() || text[i + 1] != '\n') {
+            plain += text[i];
+        }
+    }
+    return plain;
+}
+
+} // namespace
+
+XmlScanner::XmlScanner(const char* pszPath)
+{
+    if (const auto bytes = ReadFileBytes(pszPath, kLargestFile)) {
+        Take(*bytes);
+    }
+}
+
+XmlScanner XmlScanner::FromText(std::string_view text)
+{
+    XmlScanner scanner;
+    scanner.Take(text);
+    return scanner;
+}
+
+void XmlScanner::Take(std::string_view text)
+{
+    m_hasText = true;
+    m_text = WithPlainLineEnds(text.substr(0, text.find('\0')));
+    for (std::size_t at = m_text.find('<'); at != kNotFound; at = m_text.find('<', at + 1)) {
+        m_brackets[Bucket(m_text.c_str()[at + 1])].push_back(static_cast<std::uint32_t>(at));
+    }
+}
+
+/// Whether the bracket is lost because a match of the component is under way when the walk reaches it: the
+/// character that ends a failed match is not looked at again. A match under way began at the bracket before,
+/// with nothing but the component's beginning between the two, unless that one is lost itself.
+bool XmlScanner::IsSwallowed(std::size_t bracket, std::string_view component, std::size_t from) const
+{
+    bool swallowed = false;
+    for (std::size_t later = bracket; later > from;) {
+        const std::size_t before = m_text.rfind('<', later - 1);
+        if (before == kNotFound || before < from || later - before > component.size() ||
+            m_text.compare(before + 1, later - before - 1, component, 0, later - before - 1) != 0) {
+            break;
+        }
+        swallowed = !swallowed;
+        later = before;
+    }
+    return swallowed;
+}
+
+/// Position behind the first `<` with the component behind it, from `from` on.
+std::size_t XmlScanner::FindComponent(std::string_view component, std::size_t from) const
+{
+    const auto& brackets = m_brackets[Bucket(component.front())];
+    for (auto at = std::lower_bound(brackets.begin(), brackets.end(), from); at != brackets.end(); ++at) {
+        if (m_text.compare(*at + 1, component.size(), component) == 0 && !IsSwallowed(*at, component, from)) {
+            return *at + 1 + component.size();
+        }
+    }
+    return kNotFound;
+}
+
+const char* XmlScanner::GetValue(const char* key, char* buffer, std::size_t nBufferSize) const
+{
+    if (!m_hasText || key == nullptr || buffer == nullptr || nBufferSize == 0) {
+        return nullptr;
+    }
+    buffer[0] = 0;
+
+    std::string_view rest(key);
+    std::size_t position = 0;
+    for (std::size_t i = 0; i < kMostComponents && !rest.empty() && position != kNotFound; ++i) {
+        const std::string_view component = rest.substr(0, rest.find('/'));
+        rest.remove_prefix(std::min(rest.size(), component.size() + 1));
+        position = component.empty() ? kNotFound : FindComponent(component, position);
+    }
+    if (position == kNotFound || position == 0) {
+        return buffer;
+    }
+    // The character behind the last name is taken to be the closing bracket.
+    const std::size_t start = std::min(position + 1, m_text.size());
+    const std::size_t end = std::min(m_text.find('<', start), m_text.size());
+    const std::size_t length = std::min(end - start, nBufferSize - 1);
+    std::memcpy(buffer, m_text.data() + start, length);
+    buffer[length] = 0;
+    return buffer;
+}
