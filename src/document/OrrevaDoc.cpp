@@ -46,6 +46,8 @@ void COrrevaDoc::Recalculate()
     }
     mirror_back_position = data.GetDistanceBack();
     mirror_front_position = data.GetMirrorThickness() + mirror_back_position;
+    // The menus ask for the kind of tube at every refresh, so that it never stays unset.
+    data.GetTubeType();
     data.SetModified(1);
     UpdateAllViews();
 }
