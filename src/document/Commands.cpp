@@ -62,7 +62,15 @@ constexpr Command kCommands[] = {
     Desktop(id::kToolkitSave, Always),
 };
 
+// Ctrl+O opens the old format, and Ctrl+S is the toolkit's save, which stores nothing. Kept.
+constexpr Accelerator kAccelerators[] = {
+    {"Ctrl+N", id::kNewQuick}, {"Ctrl+E", id::kProperties}, {"Ctrl+O", id::kImportOld}, {"Ctrl+P", id::kPrint},
+    {"Ctrl+S", id::kToolkitSave}, {"F1", id::kHelp}, {"Shift+F1", id::kContextHelp},
+};
+
 } // namespace
+
+std::span<const Accelerator> Accelerators() { return kAccelerators; }
 
 std::span<const Command> Commands() { return kCommands; }
 

@@ -72,6 +72,14 @@ inline constexpr std::int32_t kHelp = 57670;
 
 std::span<const Command> Commands();
 
+/// A key that gives a command, in both languages the same.
+struct Accelerator {
+    const char* keys; ///< as "Ctrl+N"
+    std::int32_t id;
+};
+
+std::span<const Accelerator> Accelerators();
+
 /// The command of an id, null if there is none.
 const Command* FindCommand(std::int32_t id);
 

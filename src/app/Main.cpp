@@ -1,0 +1,21 @@
+#include "app/OrrevaApp.h"
+
+#include <QApplication>
+
+#include <clocale>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    // The toolkit takes the system's locale over; numbers are read and written in the C locale always.
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setApplicationName("Orreva");
+    QApplication::setApplicationVersion("0.3.1.34");
+    QApplication::setDesktopFileName("orreva");
+
+    COrrevaApp app;
+    if (!app.InitInstance(QApplication::arguments().mid(1))) {
+        return 1;
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,190 @@
+#include "app/MainFrame.h"
+
+#include "app/KeyIndicators.h"
+#include "app/MyDialogBar.h"
+#include "app/OrrevaApp.h"
+#include "app/Printing.h"
+#include "document/Commands.h"
+#include "pages/AboutBox.h"
+#include "pages/Help.h"
+#include "views/LeftView.h"
+#include "views/OrrevaView.h"
+
+#include "ui_MainFrame.h"
+
+#include <QCloseEvent>
+#include <QShortcut>
+#include <QSplitter>
+
+namespace {
+
+constexpr const char* kCommandId = "commandId";
+constexpr int kPaneWidth = 260;
+
+// The view styles of a list view, which this program has none of: they are shown and do nothing.
+constexpr int kFirstViewStyle = 59408;
+constexpr int kLastViewStyle = 59413;
+
+bool IsViewStyle(int id) { return id >= kFirstViewStyle && id <= kLastViewStyle; }
+
+} // namespace
+
+CMainFrame::CMainFrame(COrrevaDoc& doc) : document(doc), ui(std::make_unique<Ui::MainFrame>())
+{
+    ui->setupUi(this);
+    setWindowIcon(QIcon(":/icons/orreva.svg"));
+    CreateBars();
+    CreatePanes();
+    BindActions();
+    BindAccelerators();
+    SetDocumentTitle({});
+    UpdateActions();
+}
+
+CMainFrame::~CMainFrame() = default;
+
+void CMainFrame::CreateBars()
+{
+    ui->dialogBarBand->addWidget(new CMyDialogBar(document, ui->dialogBarBand));
+    new KeyIndicators(*ui->statusBar);
+}
+
+void CMainFrame::CreatePanes()
+{
+    auto* const splitter = new QSplitter(Qt::Horizontal, this);
+    left = new CLeftView(document, splitter);
+    right = new COrrevaView(document, splitter);
+    splitter->setChildrenCollapsible(false);
+    splitter->setStretchFactor(1, 1);
+    const int leftWidth = CLeftView::CreationWidth(kPaneWidth);
+    splitter->setSizes({leftWidth, std::max(kPaneWidth, width() - leftWidth)});
+    setCentralWidget(splitter);
+    for (CPane* const pane : {static_cast<CPane*>(left), static_cast<CPane*>(right)}) {
+        connect(pane, &CPane::Activated, this, [this](CPane* activated) { active = activated; });
+    }
+    active = left;
+    left->setFocus();
+}
+
+void CMainFrame::BindActions()
+{
+    for (QAction* const action : findChildren<QAction*>()) {
+        const int id = action->property(kCommandId).toInt();
+        if (id != 0) {
+            connect(action, &QAction::triggered, this, [this, id] { OnCommand(id); });
+        }
+    }
+    for (QMenu* const menu : findChildren<QMenu*>()) {
+        connect(menu, &QMenu::aboutToShow, this, &CMainFrame::UpdateActions);
+    }
+}
+
+void CMainFrame::BindAccelerators()
+{
+    for (const Accelerator& accelerator : Accelerators()) {
+        auto* const shortcut = new QShortcut(QKeySequence(accelerator.keys), this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, [this, id = accelerator.id] {
+            const Command* const command = FindCommand(id);
+            if (command != nullptr && IsEnabled(*command, document)) {
+                OnCommand(id);
+            }
+        });
+    }
+}
+
+void CMainFrame::SetDocumentTitle(const QString& title)
+{
+    setWindowTitle(title.isEmpty() ? QString("Orreva") : title + " - Orreva");
+}
+
+void CMainFrame::UpdateAllViews()
+{
+    left->update();
+    right->update();
+    UpdateActions();
+}
+
+void CMainFrame::UpdateActions()
+{
+    for (QAction* const action : findChildren<QAction*>()) {
+        const int id = action->property(kCommandId).toInt();
+        if (IsViewStyle(id)) {
+            UpdateViewStyles(*action, id);
+        } else if (const Command* const command = FindCommand(id)) {
+            action->setEnabled(IsEnabled(*command, document));
+            if (action->isCheckable()) {
+                action->setChecked(IsChecked(*command, document));
+            }
+        }
+    }
+}
+
+/// As a list view's: a radio mark by the style bits of the right pane, which is no list and has none of them.
+void CMainFrame::UpdateViewStyles(QAction& action, int id)
+{
+    constexpr int kStyleOfThePane = 0;
+    action.setEnabled(right != nullptr);
+    action.setChecked(id - kFirstViewStyle == kStyleOfThePane);
+}
+
+void CMainFrame::OnCommand(int id)
+{
+    if (!active->OnCommand(id) && !RunCommand(id, document)) {
+        RunDesktopCommand(id);
+    }
+    UpdateActions();
+}
+
+void CMainFrame::RunDesktopCommand(int id)
+{
+    switch (id) {
+    case command_id::kPrint:
+        PrintPane(*active, this);
+        break;
+    case command_id::kPrintPreview:
+        PreviewPane(*active, this);
+        break;
+    case command_id::kPrintSetup:
+        SetUpPrinter(this);
+        break;
+    case command_id::kExit:
+        close();
+        break;
+    case command_id::kGerman:
+        COrrevaApp::Instance().OnLanguage(kGerman);
+        break;
+    case command_id::kEnglish:
+        COrrevaApp::Instance().OnLanguage(kEnglish);
+        break;
+    case command_id::kForum:
+        WinHelp(1, kHelpContext);
+        break;
+    case command_id::kHandbook:
+    case command_id::kHelp:
+    case command_id::kContextHelp:
+        WinHelp(0, kHelpContext);
+        break;
+    case command_id::kHelpThemes:
+        WinHelp(0, kHelpThemesCommand);
+        break;
+    case command_id::kAbout:
+        CAboutBox(COrrevaApp::Instance().IsThreadGerman(), this).exec();
+        break;
+    default:
+        break; // the toolkit's save and the view styles: nothing
+    }
+}
+
+void CMainFrame::closeEvent(QCloseEvent* event)
+{
+    // The prompt has no Cancel, so that every close goes through; a second one while it stands waits.
+    if (closing) {
+        event->ignore();
+        return;
+    }
+    closing = true;
+    document.OnCloseDocument();
+    closing = false;
+    event->accept();
+}

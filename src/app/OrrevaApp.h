@@ -1,0 +1,49 @@
+#pragma once
+
+#include "app/QtHost.h"
+#include "document/OrrevaDoc.h"
+
+#include <QSettings>
+#include <QStringList>
+#include <QTranslator>
+
+#include <memory>
+#include <vector>
+
+/// The application: settles the language, builds the document and the main window, and routes help.
+class COrrevaApp {
+public:
+    COrrevaApp();
+    ~COrrevaApp();
+    COrrevaApp(const COrrevaApp&) = delete;
+    COrrevaApp& operator=(const COrrevaApp&) = delete;
+
+    static COrrevaApp& Instance();
+
+    /// The start, in its order; `arguments` are the command line's words behind the program's name. False if
+    /// the start fails.
+    bool InitInstance(const QStringList& arguments);
+
+    /// The language commands: a message, the profile's entry, and the locale of dialogs that open from now on.
+    /// Texts of the code and the menu on the screen change at the next start.
+    void OnLanguage(int language);
+    /// Whether dialogs are built in German at this moment.
+    bool IsThreadGerman() const { return threadGerman; }
+
+    CMainFrame& Frame() { return *frame; }
+    COrrevaDoc& Document() { return *document; }
+
+    /// The program's settings: per user, below `VarnholtTelescope`.
+    static QSettings Profile();
+
+private:
+    void ChooseLanguage();
+    void SetThreadLocale(int language);
+    bool ProcessShellCommand(const QStringList& arguments);
+
+    CQtHost host;
+    std::unique_ptr<COrrevaDoc> document;
+    std::unique_ptr<CMainFrame> frame;
+    std::vector<std::unique_ptr<QTranslator>> translators;
+    bool threadGerman = false;
+};

@@ -1,0 +1,137 @@
+#include "app/QtHost.h"
+
+#include "app/MainFrame.h"
+#include "app/Modals.h"
+#include "document/OrrevaDoc.h"
+#include "pages/QuickNewDialog.h"
+#include "pages/RaytracingSettingsDialog.h"
+#include "views/QtText.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+QWidget* ActiveWindow() { return QApplication::activeWindow(); }
+
+int Box(QMessageBox::Icon icon, const QString& title, const QString& text, QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(icon, title, text, buttons, ActiveWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return box.exec();
+}
+
+} // namespace
+
+QStringList NameFilters(const char* pipes)
+{
+    QStringList filters;
+    const QStringList pieces = QString::fromUtf8(pipes).split('|', Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
+        const QString text = pieces[i].section(" (", 0, 0);
+        filters << text + " (" + pieces[i + 1] + ")";
+    }
+    return filters;
+}
+
+void CQtHost::Attach(CMainFrame* mainFrame, COrrevaDoc* doc)
+{
+    frame = mainFrame;
+    document = doc;
+}
+
+bool CQtHost::AskYesNo(const char* text)
+{
+    return Box(QMessageBox::Question, "Orreva", ToQString(text), QMessageBox::Yes | QMessageBox::No) ==
+           QMessageBox::Yes;
+}
+
+void CQtHost::ShowMessage(const char* text)
+{
+    Box(QMessageBox::Warning, "Orreva", ToQString(text), QMessageBox::Ok);
+}
+
+void CQtHost::SetDocumentTitle(const char* path)
+{
+    if (frame != nullptr) {
+        frame->SetDocumentTitle(QFile::decodeName(path));
+    }
+}
+
+void CQtHost::BeginWait() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+
+void CQtHost::EndWait() { QApplication::restoreOverrideCursor(); }
+
+void CQtHost::UpdateAllViews()
+{
+    if (frame != nullptr) {
+        frame->UpdateAllViews();
+    }
+}
+
+std::string CQtHost::AskPath(const FileDialog& mask)
+{
+    QFileDialog dialog(ActiveWindow());
+    dialog.setAcceptMode(mask.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(mask.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setNameFilters(NameFilters(mask.filter));
+    dialog.setDefaultSuffix(mask.default_extension);
+    dialog.selectFile(mask.file_name);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return {};
+    }
+    return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+}
+
+bool CQtHost::AskQuickNew(QuickNewTexts& texts)
+{
+    CQuickNewDialog dialog(texts, ActiveWindow());
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    texts = dialog.Texts();
+    return true;
+}
+
+bool CQtHost::AskRaytracingSettings(std::uint8_t miss_in_grey)
+{
+    return CRaytracingSettingsDialog(miss_in_grey, ActiveWindow()).exec() == QDialog::Accepted;
+}
+
+bool CQtHost::RunModal(Modal modal) { return document != nullptr && RunModalDialog(modal, *document, ActiveWindow()); }
+
+AssertAnswer CQtHost::AskAssert(const char* title, const char* text)
+{
+    switch (Box(QMessageBox::Critical, ToQString(title), ToQString(text),
+                QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore)) {
+    case QMessageBox::Abort:
+        return AssertAnswer::Abort;
+    case QMessageBox::Retry:
+        return AssertAnswer::Retry;
+    default:
+        return AssertAnswer::Ignore;
+    }
+}
+
+void CQtHost::CloseMainWindow()
+{
+    // The message goes to the main window's handle, which nothing sets; so no window gets it.
+    if (g_hMainWnd != nullptr) {
+        static_cast<QWidget*>(g_hMainWnd)->close();
+    }
+}
+
+void CQtHost::BreakIntoDebugger() { std::raise(SIGTRAP); }
+
+void CQtHost::FatalAppExit(const char* text)
+{
+    std::fprintf(stderr, "%s\n", text);
+    std::_Exit(EXIT_FAILURE);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "document/DocumentHost.h"
+#include "lib/Assertion.h"
+
+#include <QString>
+#include <QStringList>
+
+class CMainFrame;
+class COrrevaDoc;
+
+/// The document's desktop in Qt. Boxes and dialogs stand over the window that is active.
+class CQtHost : public DocumentHost, public AssertDesktop {
+public:
+    /// The frame and the document, once they stand; until then titles and repaints go nowhere.
+    void Attach(CMainFrame* mainFrame, COrrevaDoc* doc);
+
+    bool AskYesNo(const char* text) override;
+    void ShowMessage(const char* text) override;
+    void SetDocumentTitle(const char* path) override;
+    void BeginWait() override;
+    void EndWait() override;
+
+    bool OnNewDocument() override { return true; }
+    void UpdateAllViews() override;
+    std::string AskPath(const FileDialog& dialog) override;
+    bool AskQuickNew(QuickNewTexts& texts) override;
+    bool AskRaytracingSettings(std::uint8_t miss_in_grey) override;
+    bool RunModal(Modal modal) override;
+
+    AssertAnswer AskAssert(const char* title, const char* text) override;
+    void CloseMainWindow() override;
+    void BreakIntoDebugger() override;
+    void FatalAppExit(const char* text) override;
+
+private:
+    CMainFrame* frame = nullptr;
+    COrrevaDoc* document = nullptr;
+};
+
+/// A filter in pipe notation, "Text|*.ext|Text|*.*||", as the toolkit's list "Text (*.ext)".
+QStringList NameFilters(const char* pipes);

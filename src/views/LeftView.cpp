@@ -1,0 +1,27 @@
+#include "views/LeftView.h"
+
+#include "document/OrrevaDoc.h"
+#include "drawing/SummaryPicture.h"
+#include "lib/Language.h"
+#include "model/Summary.h"
+#include "views/PainterSurface.h"
+
+#include <QPainter>
+#include <QPrinter>
+
+CLeftView::CLeftView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, parent) { setObjectName("leftView"); }
+
+void CLeftView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    PainterSurface surface(painter, width(), height());
+    PaintSummary(surface, *document.active_record, {document.field_angle_100, document.field_diameter_100}, g_nLanguage);
+}
+
+void CLeftView::OnPrint(QPrinter& printer)
+{
+    QPainter painter(&printer);
+    PainterSurface surface(painter, printer.width(), printer.height());
+    PaintSummary(surface, *document.active_record, {document.field_angle_100, document.field_diameter_100}, g_nLanguage,
+                 kPaperFontHeight);
+}

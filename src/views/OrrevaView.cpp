@@ -1,0 +1,77 @@
+#include "views/OrrevaView.h"
+
+#include "document/Commands.h"
+#include "drawing/SectionPicture.h"
+#include "lib/Language.h"
+#include "lib/Log.h"
+#include "views/PainterSurface.h"
+
+#include <QCursor>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPrinter>
+
+namespace {
+
+Pixel At(const QPoint& point) { return {point.x(), point.y()}; }
+
+} // namespace
+
+COrrevaView::COrrevaView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, parent)
+{
+    setObjectName("orrevaView");
+    setMouseTracking(true);
+}
+
+bool COrrevaView::OnCommand(std::int32_t id) { return id == command_id::kShowWithoutOffset; }
+
+void COrrevaView::OnDraw(Surface& surface)
+{
+    g_pCurrentDocument = &document;
+    // The pointer is read at each drawing; neither zoom nor scroll is taken off it.
+    const Pixel pointer = At(mapFromGlobal(QCursor::pos()));
+    PaintSection(surface, zoom, *document.active_record, document, pointer, g_nLanguage);
+}
+
+void COrrevaView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    PainterSurface surface(painter, width(), height());
+    OnDraw(surface);
+}
+
+void COrrevaView::OnPrint(QPrinter& printer)
+{
+    QPainter painter(&printer);
+    PainterSurface surface(painter, printer.width(), printer.height());
+    OnDraw(surface);
+}
+
+void COrrevaView::mouseMoveEvent(QMouseEvent*)
+{
+    const bool rays = document.ray_parallel != 0 || document.ray_from_focal_plane != 0 || document.ray_from_mouse != 0;
+    if (document.HasFile() && rays) {
+        update();
+    }
+}
+
+void COrrevaView::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        LogText("lbutton");
+    } else if (event->button() == Qt::RightButton) {
+        zoom.RightClick();
+        update();
+    }
+}
+
+void COrrevaView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        if (zoom.DoubleClick(At(event->position().toPoint()))) {
+            update();
+        }
+    } else {
+        mousePressEvent(event); // a quick second right click is one more
+    }
+}

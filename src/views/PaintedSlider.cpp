@@ -1,0 +1,7 @@
+#include "views/PaintedSlider.h"
+
+void CPaintedSlider::paintEvent(QPaintEvent* event)
+{
+    QSlider::paintEvent(event);
+    emit Painted(value());
+}

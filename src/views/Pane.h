@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+
+#include <cstdint>
+
+class COrrevaDoc;
+class QPrinter;
+
+/// One of the two panes of the main window. The active pane is the one that commands see first and that
+/// printing takes; it becomes active by a click or by the keyboard's focus.
+class CPane : public QWidget {
+    Q_OBJECT
+
+public:
+    CPane(COrrevaDoc& document, QWidget* parent);
+
+    /// A chance to take a command before the document does; true ends its way here.
+    virtual bool OnCommand(std::int32_t id);
+    /// One page on paper.
+    virtual void OnPrint(QPrinter& printer) = 0;
+
+signals:
+    void Activated(CPane* pane);
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+
+    COrrevaDoc& document;
+};

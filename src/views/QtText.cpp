@@ -1,0 +1,11 @@
+#include "views/QtText.h"
+
+#include "lib/CodePage.h"
+
+QString ToQString(std::string_view cp1252)
+{
+    const std::string utf8 = Utf8FromCp1252(cp1252);
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+std::string FromQString(const QString& text) { return Cp1252FromUtf8(text.toStdString()); }
