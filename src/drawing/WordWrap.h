@@ -7,8 +7,8 @@
 
 /// The lines of `text` when it is broken between words so that each fits into `width` pixels. A line break in
 /// the text ends a line, a word that is too long stands alone and whole, and the blanks at a break are
-/// dropped. `measure` gives the width in pixels of a piece of text; every byte is measured once. An empty
-/// text has no lines.
+/// dropped. `measure` gives the width in pixels of a piece of text; a byte is measured twice at most. An
+/// empty text has no lines.
 template <class Measure>
 std::vector<std::string_view> WrapWords(std::string_view text, std::int32_t width, Measure measure)
 {

@@ -4,6 +4,7 @@
 
 #include <ostream>
 
+namespace drawn {
 namespace {
 
 std::ostream& operator<<(std::ostream& out, Colour colour)
@@ -24,8 +25,6 @@ std::ostream& operator<<(std::ostream& out, const Font& font)
 }
 
 } // namespace
-
-namespace drawn {
 
 std::ostream& operator<<(std::ostream& out, const FillRect& call)
 {
@@ -73,48 +72,48 @@ std::ostream& operator<<(std::ostream& out, const WrappedText& call)
 
 void RecordingSurface::FillRect(const PixelRect& rect, Colour colour)
 {
-    calls.push_back(drawn::FillRect{rect, colour});
+    calls.emplace_back(drawn::FillRect{rect, colour});
 }
 
 void RecordingSurface::Line(Pixel from, Pixel to, Colour colour)
 {
-    calls.push_back(drawn::Line{from, to, colour});
+    calls.emplace_back(drawn::Line{from, to, colour});
 }
 
 void RecordingSurface::Polygon(std::span<const Pixel> points, Colour pen, Colour brush)
 {
-    calls.push_back(drawn::Polygon{{points.begin(), points.end()}, pen, brush});
+    calls.emplace_back(drawn::Polygon{{points.begin(), points.end()}, pen, brush});
 }
 
 void RecordingSurface::Ellipse(const PixelRect& box, Colour pen, std::int32_t penWidth)
 {
-    calls.push_back(drawn::Ellipse{box, pen, penWidth});
+    calls.emplace_back(drawn::Ellipse{box, pen, penWidth});
 }
 
 void RecordingSurface::Arc(const PixelRect& box, Pixel from, Pixel to, Colour pen)
 {
-    calls.push_back(drawn::Arc{box, from, to, pen});
+    calls.emplace_back(drawn::Arc{box, from, to, pen});
 }
 
 void RecordingSurface::Chord(const PixelRect& box, Pixel from, Pixel to, Colour pen, Colour brush)
 {
-    calls.push_back(drawn::Chord{box, from, to, pen, brush});
+    calls.emplace_back(drawn::Chord{box, from, to, pen, brush});
 }
 
 void RecordingSurface::Image(Pixel at, std::int32_t imageWidth, std::span<const Colour> pixels)
 {
-    calls.push_back(drawn::Image{at, imageWidth, {pixels.begin(), pixels.end()}});
+    calls.emplace_back(drawn::Image{at, imageWidth, {pixels.begin(), pixels.end()}});
 }
 
 void RecordingSurface::Text(Pixel at, std::string_view text, const Font& font, Colour colour)
 {
-    calls.push_back(drawn::Text{at, std::string(text), font, colour});
+    calls.emplace_back(drawn::Text{at, std::string(text), font, colour});
 }
 
 std::int32_t RecordingSurface::WrappedText(const PixelRect& box, std::string_view text, const Font& font,
                                            Colour colour)
 {
-    calls.push_back(drawn::WrappedText{box, std::string(text), font, colour});
+    calls.emplace_back(drawn::WrappedText{box, std::string(text), font, colour});
     const auto measure = [](std::string_view piece) {
         return static_cast<double>(piece.size()) * kCharacterWidth;
     };
