@@ -10,7 +10,7 @@
 /// dropped. `measure` gives the width in pixels of a piece of text; a byte is measured twice at most. An
 /// empty text has no lines.
 template <class Measure>
-std::vector<std::string_view> WrapWords(std::string_view text, std::int32_t width, Measure measure)
+std::vector<std::string_view> WrapWords(std::string_view text, double width, Measure measure)
 {
     std::vector<std::string_view> lines;
     std::size_t start = 0; // of the line
