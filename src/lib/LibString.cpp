@@ -90,11 +90,9 @@ void LibString::Format(const char* pszFormat, ...)
     const FormatSize size = CountFormat(pszFormat, counted);
     va_end(counted);
 
-    if (size.badLetter != 0) {
+    if (size.bad) {
         va_end(args);
-        Assign("Fehlerhaftes Zeichen im Format-String: ");
-        const std::string text = std::string(m_psz) + size.badLetter;
-        Assign(text.c_str());
+        Assign((std::string("Fehlerhaftes Zeichen im Format-String: ") + size.badLetter).c_str());
         return;
     }
 
