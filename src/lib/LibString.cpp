@@ -73,13 +73,12 @@ char LibString::At(long i) const
 
 void LibString::TrimBlanks()
 {
-    std::size_t n = Length();
-    while (n > 0 && IsBlank(m_psz[n - 1])) {
-        --n;
-    }
-    m_psz[n] = 0;
-    m_psz += SkipBlanks(m_psz) - m_psz;
+    TrimBlanksRight();
+    TrimBlanksLeft();
 }
+
+void LibString::TrimBlanksLeft() { m_psz += SkipBlanks(m_psz) - m_psz; }
+void LibString::TrimBlanksRight() { TrimRight(m_psz); }
 
 void LibString::Format(const char* pszFormat, ...)
 {
