@@ -51,9 +51,6 @@ public:
     virtual std::int32_t Width() const = 0;
     virtual std::int32_t Height() const = 0;
 
-    /// The part of the picture that will be seen; a picture may leave out what lies outside.
-    virtual PixelRect Visible() const { return {0, 0, Width(), Height()}; }
-
     virtual void FillRect(const PixelRect& rect, Colour colour) = 0;
     /// A line with both of its ends.
     virtual void Line(Pixel from, Pixel to, Colour colour) = 0;
@@ -71,7 +68,8 @@ public:
     virtual void Image(Pixel at, std::int32_t width, std::span<const Colour> pixels) = 0;
     /// One line of text with its upper left corner at `at`; an upright font runs upward from there.
     virtual void Text(Pixel at, std::string_view text, const Font& font, Colour colour) = 0;
-    /// Text broken between words at the box's width, not clipped; the height in pixels that it used.
+    /// Text broken between words at the box's width, not clipped; the height in pixels that it used: the
+    /// font's height for each line, 0 for an empty text.
     virtual std::int32_t WrappedText(const PixelRect& box, std::string_view text, const Font& font,
                                      Colour colour) = 0;
 };

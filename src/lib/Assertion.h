@@ -27,7 +27,7 @@ AssertDesktop* SetAssertDesktop(AssertDesktop* desktop);
 void AssertFail(const char* expr, const char* file, int line, const char* msg);
 
 /// The assertion of the support library: logs "Assertation (%s) failed File %s Line %d" and exits with 1.
-/// `file` is the module's source path without its extension.
+/// `file` is the module's source path; it is told without its extension.
 [[noreturn]] void LibAssertFail(const char* expr, const char* file, int line);
 
 #define ORREVA_ASSERT(expression, source)                                                                    \

@@ -1,14 +1,28 @@
 #include "lib/CharTools.h"
 
-const char* SkipBlanks(const char* p)
+#include <cstring>
+
+namespace {
+
+template <typename Is>
+const char* SkipWhile(const char* p, Is is)
 {
-    while (IsBlank(*p)) {
+    while (is(*p)) {
         ++p;
     }
     return p;
 }
 
-namespace {
+template <typename Is>
+char* CutWhile(char* psz, Is is)
+{
+    std::size_t n = std::strlen(psz);
+    while (n > 0 && is(psz[n - 1])) {
+        --n;
+    }
+    psz[n] = 0;
+    return psz;
+}
 
 template <typename Fold>
 const char* MatchPrefix(const char* prefix, const char* p, Fold fold)
@@ -24,6 +38,26 @@ const char* MatchPrefix(const char* prefix, const char* p, Fold fold)
 
 } // namespace
 
+const char* SkipBlanks(const char* p) { return SkipWhile(p, IsBlank); }
+const char* SkipAll(const char* p) { return SkipWhile(p, IsBlankOrLineEnd); }
+
+char* TrimRight(char* psz) { return CutWhile(psz, IsBlank); }
+char* TrimRightAll(char* psz) { return CutWhile(psz, IsBlankOrLineEnd); }
+char* TrimAll(char* psz) { return TrimRightAll(psz) + (SkipAll(psz) - psz); }
+
+char* StripComment(char* pszLine)
+{
+    bool quoted = false;
+    for (char* p = pszLine; *p != 0; ++p) {
+        if (*p == '\n' || *p == '\r' || (*p == '#' && !quoted)) {
+            *p = 0;
+            return TrimRight(pszLine);
+        }
+        quoted = quoted != (*p == '"');
+    }
+    return nullptr;
+}
+
 const char* StartsWith(const char* prefix, const char* p)
 {
     return MatchPrefix(prefix, p, [](char c) { return c; });
@@ -31,38 +65,36 @@ const char* StartsWith(const char* prefix, const char* p)
 
 const char* StartsWithNoCase(const char* prefix, const char* p) { return MatchPrefix(prefix, p, FoldUpper); }
 
-char FoldUpper(char c)
+const char* FindText(const char* what, const char* text) { return std::strstr(text, what); }
+
+const char* FindTextNoCase(const char* what, const char* text)
 {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 32) {
-        return '_';
+    for (const char* p = text;; ++p) {
+        if (StartsWithNoCase(what, p) != nullptr) {
+            return p;
+        }
+        if (*p == 0) {
+            return nullptr;
+        }
     }
-    if (c >= 'a' && c <= 'z') {
-        return static_cast<char>(c - 'a' + 'A');
+}
+
+int HexDigitValue(char c)
+{
+    if (IsDigit(c)) {
+        return c - '0';
     }
-    if (byte < 128) {
-        return c;
+    if (c >= 'a' && c <= 'f') {
+        return c - 'a' + 10;
     }
-    switch (byte) {
-    case 0x81:
-    case 0x9A:
-    case 0xDC:
-    case 0xFC:
-        return static_cast<char>(0x9A); // ü
-    case 0x84:
-    case 0x8E:
-    case 0xC4:
-    case 0xE4:
-        return static_cast<char>(0x8E); // ä
-    case 0x94:
-    case 0x99:
-    case 0xD6:
-    case 0xF6:
-        return static_cast<char>(0x99); // ö
-    case 0xDF:
-    case 0xE1:
-        return static_cast<char>(0xE1); // ß
-    default:
-        return '_';
+    return c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
+}
+
+std::int32_t HexToLong(const char* psz)
+{
+    std::uint32_t value = 0;
+    for (; HexDigitValue(*psz) >= 0; ++psz) {
+        value = value * 16 + static_cast<std::uint32_t>(HexDigitValue(*psz));
     }
+    return static_cast<std::int32_t>(value);
 }

@@ -1,7 +1,10 @@
 #include "lib/FileQueries.h"
 
-#include <cstdio>
 #include <filesystem>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 int FileExists(const char* pszPath)
 {
@@ -11,12 +14,13 @@ int FileExists(const char* pszPath)
 
 std::int64_t FileSize(const char* pszPath)
 {
-    std::FILE* const file = std::fopen(pszPath, "rb");
-    if (file == nullptr) {
+    // Only a file that can be opened has a size. Opening a pipe must not wait for its other end.
+    const int fd = open(pszPath, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) {
         return 0;
     }
-    std::fclose(file);
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(pszPath, error);
-    return error ? 0 : static_cast<std::int64_t>(size);
+    struct stat status = {};
+    const bool sized = fstat(fd, &status) == 0 && S_ISREG(status.st_mode);
+    close(fd);
+    return sized ? status.st_size : 0;
 }

@@ -51,8 +51,10 @@ Conversion ReadConversion(const char*& p)
 
 std::size_t TextSize(const Conversion& c, const char* text)
 {
-    const std::size_t length = text == nullptr ? kNullTextSize : std::max(std::strlen(text), c.width);
-    return std::max<std::size_t>(length + c.precision, 1);
+    if (text == nullptr) {
+        return kNullTextSize;
+    }
+    return std::max<std::size_t>(std::max(std::strlen(text), c.width) + c.precision, 1);
 }
 
 void SkipInteger(const Conversion& c, std::va_list args)
@@ -129,13 +131,17 @@ FormatSize CountFormat(const char* pszFormat, std::va_list args)
             counted += c.width;
             break;
         default:
-            size.badLetter = c.letter != 0 ? c.letter : '%';
+            size.bad = true;
+            size.badLetter = c.letter;
             va_end(rest);
             return size;
         }
         size.bytes += counted;
         if (prints) {
             size.printable.append(start, p + 1);
+        }
+        if (c.letter == 'C') {
+            size.printable.back() = 'c'; // a byte too; the runtime would take a wide character
         }
     }
     va_end(rest);

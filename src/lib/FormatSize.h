@@ -7,8 +7,9 @@
 /// What a walk over a format and its arguments tells before anything is printed.
 struct FormatSize {
     std::size_t bytes = 1; ///< upper bound of the printed text with its closing zero byte
-    char badLetter = 0;    ///< the letter that is no conversion, 0 when there is none
-    std::string printable; ///< the format without the conversions that print nothing
+    bool bad = false;      ///< a letter that is no conversion stopped the count
+    char badLetter = 0;    ///< that letter, 0 if the format ended before any
+    std::string printable; ///< the format as the runtime is to print it
 };
 
 /// Adds up the counted size of `pszFormat`: 1 for a plain character and for "%%", and for each conversion a

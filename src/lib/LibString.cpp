@@ -73,13 +73,12 @@ char LibString::At(long i) const
 
 void LibString::TrimBlanks()
 {
-    std::size_t n = Length();
-    while (n > 0 && IsBlank(m_psz[n - 1])) {
-        --n;
-    }
-    m_psz[n] = 0;
-    m_psz += SkipBlanks(m_psz) - m_psz;
+    TrimBlanksRight();
+    TrimBlanksLeft();
 }
+
+void LibString::TrimBlanksLeft() { m_psz += SkipBlanks(m_psz) - m_psz; }
+void LibString::TrimBlanksRight() { TrimRight(m_psz); }
 
 void LibString::Format(const char* pszFormat, ...)
 {
@@ -90,11 +89,9 @@ void LibString::Format(const char* pszFormat, ...)
     const FormatSize size = CountFormat(pszFormat, counted);
     va_end(counted);
 
-    if (size.badLetter != 0) {
+    if (size.bad) {
         va_end(args);
-        Assign("Fehlerhaftes Zeichen im Format-String: ");
-        const std::string text = std::string(m_psz) + size.badLetter;
-        Assign(text.c_str());
+        Assign((std::string("Fehlerhaftes Zeichen im Format-String: ") + size.badLetter).c_str());
         return;
     }
 

@@ -1,0 +1,54 @@
+#include "drawing/SectionMapping.h"
+
+#include "lib/Numbers.h"
+#include "model/OrrevaData.h"
+
+#include <algorithm>
+
+namespace {
+
+std::int32_t ScrolledPixel(double place, std::int32_t scroll)
+{
+    return TruncToInt32(static_cast<double>(TruncToInt32(place)) - scroll);
+}
+
+} // namespace
+
+Pixel SectionMapping::WorldToScreen(double x, double y) const
+{
+    return {ScrolledPixel(x * scale + offsetX + 0.5, scroll.x),
+            ScrolledPixel(y * scale + offsetY + 0.5, scroll.y)};
+}
+
+PixelRect SectionMapping::WorldToScreen(Point corner, Point opposite) const
+{
+    const auto [x0, x1] = std::minmax(corner.x, opposite.x);
+    const auto [y0, y1] = std::minmax(corner.y, opposite.y);
+    const Pixel low = WorldToScreen(x0, y0);
+    return {low.x, low.y, ScrolledPixel(x1 * scale + offsetX + 1.5, scroll.x),
+            ScrolledPixel(y1 * scale + offsetY + 1.5, scroll.y)};
+}
+
+Point SectionMapping::ScreenToWorld(Pixel pixel) const
+{
+    return {(pixel.x - offsetX) / scale, (pixel.y - offsetY) / scale};
+}
+
+SectionMapping FitSection(COrrevaData& record, Pixel size)
+{
+    constexpr int kMargin = 10; // pixels, for both sides together
+    const double L = record.GetTubeLength();
+    const double sceneLength = L + L / 10;
+    const double I = record.GetInsideDiameterHat();
+    const double T = record.GetThicknessHat();
+    const double atFocalPlane = I + 2 * T + record.GetFocuserTotalHeight();
+    const double Hf = record.GetFocuserHeight();
+    const double extended = I + 2 * T + Hf + record.GetOazTravel();
+    const double sceneHeight = extended > atFocalPlane ? extended : atFocalPlane;
+
+    SectionMapping map;
+    map.scale = std::min((size.x - kMargin) / sceneLength, (size.y - kMargin) / sceneHeight);
+    map.offsetX = (size.x - sceneLength * map.scale) / 2;
+    map.offsetY = ((size.y - sceneHeight * map.scale) / 2) / 2;
+    return map;
+}

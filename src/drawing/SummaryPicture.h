@@ -1,0 +1,14 @@
+#pragma once
+
+#include "drawing/Surface.h"
+
+class COrrevaData;
+struct FullField;
+
+inline constexpr std::int32_t kScreenFontHeight = 14;
+inline constexpr std::int32_t kPaperFontHeight = 24;
+
+/// Paints the design summary on its green field. Labels wrap at the value column and move what follows down;
+/// the columns stay where they are for every font. Without a loaded telescope the field stays plain.
+void PaintSummary(Surface& surface, COrrevaData& record, const FullField& field, int language,
+                  std::int32_t fontHeight = kScreenFontHeight);

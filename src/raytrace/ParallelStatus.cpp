@@ -1,0 +1,55 @@
+#include "raytrace/ParallelStatus.h"
+
+#include "lib/CodePage.h"
+#include "lib/Language.h"
+#include "lib/LibString.h"
+#include "lib/Numbers.h"
+#include "model/Formulas.h"
+#include "model/OrrevaData.h"
+
+#include <cmath>
+
+namespace {
+
+/// Percent of the unit circle that a circle of the radius r at the distance d covers; no number if the
+/// circles do not cut each other.
+double OverlapPercent(double r, double d)
+{
+    const double c1 = ((d * d + 1 - r * r) / 2) / d;
+    const double c2 = ((r * r + d * d - 1) / 2) / d / r;
+    return (std::acos(c1) - std::sqrt(1 - c1 * c1) * d + r * r * std::acos(c2)) * 100 / kPi;
+}
+
+} // namespace
+
+ParallelFigures ParallelStatus(COrrevaData& record, double a)
+{
+    const double f = record.GetFocalLength();
+    const double D = record.GetMirrorDiameter();
+    const double S = record.GetSecondaryDiameter();
+    const double L = record.GetFocalPlaneHeight();
+
+    ParallelFigures figures;
+    const double g = a / kPi * 360 / -2;
+    figures.angleDegrees = g + 90;
+    const double e = FieldSize(f, figures.angleDegrees);
+    figures.imageMm = std::fabs(e) + std::fabs(e);
+    const double r = S * f / L / D;
+    const double d = (f - L) * figures.imageMm / L / D;
+    figures.illuminationPercent = OverlapPercent(r, d);
+    if (!std::isfinite(figures.illuminationPercent)) {
+        figures.illuminationPercent = figures.imageMm > S ? 0.0 : 100.0;
+    }
+    return figures;
+}
+
+std::string FormatParallelStatus(int language, const ParallelFigures& figures)
+{
+    constexpr Bilingual kText{
+        "Angle: %0.3f° Image: %0.2f mm, Illumination: %0.2f%% "_cp1252,
+        "Einfallwinkel: %0.3f° Bild: %0.2f mm, Ausleuchtung: %0.2f%% "_cp1252,
+    };
+    LibString line;
+    line.Format(kText.In(language), figures.angleDegrees, figures.imageMm, figures.illuminationPercent);
+    return line.GetText();
+}

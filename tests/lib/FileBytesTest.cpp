@@ -1,0 +1,238 @@
+#include "lib/FileBytes.h"
+
+#include "support/OrdinaryUser.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr mode_t kPermissions = 07777;
+
+mode_t ModeOf(const std::string& path)
+{
+    struct stat status = {};
+    return stat(path.c_str(), &status) == 0 ? status.st_mode & kPermissions : 0;
+}
+
+TEST(ReadFileBytes, GivesEveryByte)
+{
+    const TempFolder folder;
+    std::string bytes;
+    for (int i = 0; i < 200000; ++i) {
+        bytes += static_cast<char>(i * 7);
+    }
+    EXPECT_EQ(bytes, ReadFileBytes(folder.Write("a", bytes).c_str()));
+    EXPECT_EQ("", ReadFileBytes(folder.Write("empty", "").c_str()));
+}
+
+TEST(ReadFileBytes, StopsAtItsLimit)
+{
+    const TempFolder folder;
+    const std::string path = folder.Write("a", "abcdef");
+    EXPECT_EQ("abc", ReadFileBytes(path.c_str(), 3));
+    EXPECT_EQ("abcdef", ReadFileBytes(path.c_str(), 6));
+    EXPECT_EQ("abcdef", ReadFileBytes(path.c_str(), 7));
+    EXPECT_EQ("", ReadFileBytes(path.c_str(), 0));
+    EXPECT_EQ(std::string(1000, '\0'), ReadFileBytes("/dev/zero", 1000));
+}
+
+TEST(ReadFileBytes, GivesNothingForWhatIsNoReadableFile)
+{
+    const TempFolder folder;
+    EXPECT_EQ(std::nullopt, ReadFileBytes(folder.Path().c_str()));
+    EXPECT_EQ(std::nullopt, ReadFileBytes(folder.Path("missing").c_str()));
+    EXPECT_EQ(std::nullopt, ReadFileBytes(""));
+}
+
+TEST(ReplaceFile, WritesANewFileAndReplacesAnOldOneWhole)
+{
+    const TempFolder folder;
+    const std::string path = folder.Path("a.xml");
+    EXPECT_TRUE(ReplaceFile(path.c_str(), "a long first text\r\n"));
+    EXPECT_EQ("a long first text\r\n", folder.Read("a.xml"));
+    EXPECT_TRUE(ReplaceFile(path.c_str(), std::string_view("b\0c", 3)));
+    EXPECT_EQ(std::string("b\0c", 3), folder.Read("a.xml"));
+    EXPECT_TRUE(ReplaceFile(path.c_str(), ""));
+    EXPECT_EQ("", folder.Read("a.xml"));
+    EXPECT_EQ(1, folder.Count()) << "nothing is left beside the file";
+}
+
+TEST(ReplaceFile, TakesANameAsLongAsTheFileSystemAllows)
+{
+    const TempFolder folder;
+    const std::string name(255, 'n');
+    EXPECT_TRUE(ReplaceFile(folder.Path(name).c_str(), "text"));
+    EXPECT_EQ("text", folder.Read(name));
+    EXPECT_FALSE(ReplaceFile(folder.Path(name + "n").c_str(), "text"));
+    EXPECT_EQ(1, folder.Count());
+}
+
+TEST(ReplaceFile, TakesANameWithoutAFolder)
+{
+    const TempFolder folder;
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.Path());
+    EXPECT_TRUE(ReplaceFile("here", "text"));
+    fs::current_path(before);
+    EXPECT_EQ("text", folder.Read("here"));
+}
+
+TEST(ReplaceFile, KeepsThePermissions)
+{
+    const TempFolder folder;
+    const std::string path = folder.Write("a", "old");
+    for (const mode_t mode : {0600u, 0640u, 0664u, 0755u, 0777u}) {
+        ASSERT_EQ(0, chmod(path.c_str(), mode));
+        EXPECT_TRUE(ReplaceFile(path.c_str(), "new"));
+        EXPECT_EQ(mode, ModeOf(path));
+    }
+}
+
+TEST(ReplaceFile, TakesNoFileFromItsOwner)
+{
+    const TempFolder folder;
+    const std::string path = folder.Write("a", "old");
+    if (geteuid() == 0) {
+        ASSERT_EQ(0, chown(path.c_str(), 12345, 54321));
+    }
+    struct stat before = {};
+    ASSERT_EQ(0, stat(path.c_str(), &before));
+    EXPECT_TRUE(ReplaceFile(path.c_str(), "new"));
+    struct stat after = {};
+    ASSERT_EQ(0, stat(path.c_str(), &after));
+    EXPECT_EQ(before.st_uid, after.st_uid);
+    EXPECT_EQ(before.st_gid, after.st_gid);
+    EXPECT_NE(before.st_ino, after.st_ino) << "a new file stands there";
+}
+
+TEST(ReplaceFile, GivesANewFileWhatTheMaskLeaves)
+{
+    const TempFolder folder;
+    const mode_t before = umask(027);
+    EXPECT_TRUE(ReplaceFile(folder.Path("a").c_str(), "new"));
+    EXPECT_EQ(027u, umask(before)) << "the mask itself stays";
+    EXPECT_EQ(0640u, ModeOf(folder.Path("a")));
+}
+
+TEST(ReplaceFile, LeavesAReadOnlyFileAsItWas)
+{
+    const TempFolder folder;
+    const std::string path = folder.Write("a", "old");
+    ASSERT_EQ(0, chmod(folder.Path().c_str(), 0777));
+    ASSERT_EQ(0, chmod(path.c_str(), 0444));
+    EXPECT_EXIT(
+        {
+            BecomeOrdinaryUser();
+            std::_Exit(ReplaceFile(path.c_str(), "new") ? 1 : 0);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_EQ("old", folder.Read("a"));
+    EXPECT_EQ(1, folder.Count());
+}
+
+TEST(ReplaceFile, LeavesAFolderThatMayNotBeWrittenAsItWas)
+{
+    const TempFolder folder;
+    const std::string path = folder.Write("a", "old");
+    ASSERT_EQ(0, chmod(path.c_str(), 0666));
+    ASSERT_EQ(0, chmod(folder.Path().c_str(), 0555));
+    EXPECT_EXIT(
+        {
+            BecomeOrdinaryUser();
+            std::_Exit(ReplaceFile(path.c_str(), "new") ? 1 : 0);
+        },
+        testing::ExitedWithCode(0), "");
+    ASSERT_EQ(0, chmod(folder.Path().c_str(), 0700));
+    EXPECT_EQ("old", folder.Read("a"));
+    EXPECT_EQ(1, folder.Count());
+}
+
+TEST(ReplaceFile, RefusesADirectoryAndAMissingFolder)
+{
+    const TempFolder folder;
+    fs::create_directory(folder.Path("directory"));
+    EXPECT_FALSE(ReplaceFile(folder.Path("directory").c_str(), "new"));
+    EXPECT_TRUE(fs::is_directory(folder.Path("directory")));
+    EXPECT_FALSE(ReplaceFile(folder.Path("missing/a").c_str(), "new"));
+    EXPECT_FALSE(ReplaceFile("", "new"));
+    EXPECT_EQ(1, folder.Count());
+}
+
+TEST(ReplaceFile, ALinkStaysALink)
+{
+    const TempFolder folder;
+    fs::create_directory(folder.Path("below"));
+    folder.Write("below/real", "old");
+    fs::create_symlink("below/real", folder.Path("link"));
+    fs::create_symlink("link", folder.Path("second"));
+    EXPECT_TRUE(ReplaceFile(folder.Path("second").c_str(), "new"));
+    EXPECT_EQ("new", folder.Read("below/real"));
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link")));
+    EXPECT_TRUE(fs::is_symlink(folder.Path("second")));
+    EXPECT_EQ(3, folder.Count());
+}
+
+TEST(ReplaceFile, ALinkToNothingMakesTheFileThatItNames)
+{
+    const TempFolder folder;
+    fs::create_directory(folder.Path("below"));
+    fs::create_symlink("below/real", folder.Path("link"));
+    EXPECT_TRUE(ReplaceFile(folder.Path("link").c_str(), "new"));
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link")));
+    EXPECT_EQ("new", folder.Read("below/real"));
+}
+
+TEST(ReplaceFile, RefusesALinkToItself)
+{
+    const TempFolder folder;
+    fs::create_symlink("loop", folder.Path("loop"));
+    EXPECT_FALSE(ReplaceFile(folder.Path("loop").c_str(), "new"));
+    EXPECT_TRUE(fs::is_symlink(folder.Path("loop")));
+    EXPECT_EQ(1, folder.Count());
+}
+
+TEST(ReplaceFile, WritesThroughADeviceAndSeesThatItIsFull)
+{
+    EXPECT_TRUE(ReplaceFile("/dev/null", "text"));
+    EXPECT_FALSE(ReplaceFile("/dev/full", "text"));
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
+TEST(ReplaceFile, DoesNotWaitForTheReaderOfAPipe)
+{
+    const TempFolder folder;
+    ASSERT_EQ(0, mkfifo(folder.Path("pipe").c_str(), 0600));
+    EXPECT_FALSE(ReplaceFile(folder.Path("pipe").c_str(), "new"));
+    EXPECT_TRUE(fs::is_fifo(folder.Path("pipe")));
+}
+
+TEST(ReplaceFile, LeavesTheOldFileWhenTheDiskTakesNoMore)
+{
+    const TempFolder folder;
+    const std::string path = folder.Write("a", "old");
+    EXPECT_EXIT(
+        {
+            // A limit on the size of files stands for the end of the disk: the first bytes go, the rest not.
+            std::signal(SIGXFSZ, SIG_IGN);
+            rlimit limit = {};
+            limit.rlim_cur = limit.rlim_max = 1000;
+            setrlimit(RLIMIT_FSIZE, &limit);
+            std::_Exit(ReplaceFile(path.c_str(), std::string(5000, 'n')) ? 1 : 0);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_EQ("old", folder.Read("a"));
+    EXPECT_EQ(1, folder.Count());
+}
+
+} // namespace

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "lib/Assertion.h"
+
+#include <string>
+#include <vector>
+
+/// Stands where the desktop would, and writes down what it is asked.
+class DesktopRecorder : public AssertDesktop {
+public:
+    DesktopRecorder() : m_before(SetAssertDesktop(this)) {}
+    DesktopRecorder(const DesktopRecorder&) = delete;
+    DesktopRecorder& operator=(const DesktopRecorder&) = delete;
+    ~DesktopRecorder() override { SetAssertDesktop(m_before); }
+
+    AssertAnswer AskAssert(const char* title, const char* text) override
+    {
+        calls.push_back(std::string(title) + ": " + text);
+        return answer;
+    }
+    void CloseMainWindow() override { calls.push_back("close"); }
+    void BreakIntoDebugger() override { calls.push_back("break"); }
+    void FatalAppExit(const char* text) override { calls.push_back(std::string("exit: ") + text); }
+
+    AssertAnswer answer = AssertAnswer::Ignore;
+    std::vector<std::string> calls;
+
+private:
+    AssertDesktop* m_before;
+};
