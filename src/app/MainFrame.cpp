@@ -5,6 +5,7 @@
 #include "app/OrrevaApp.h"
 #include "app/Printing.h"
 #include "document/Commands.h"
+#include "lib/Language.h"
 #include "pages/AboutBox.h"
 #include "pages/Help.h"
 #include "views/LeftView.h"

@@ -18,9 +18,9 @@ namespace Ui {
 class MainFrame;
 }
 
-/// The single main window: menus, toolbar and what-if bar, a status bar with its indicators, and the two panes.
-/// Actions carry their command's number; what they do, and when they are enabled and checked, stands in the
-/// document's command table.
+/// The single main window: menus, toolbar and what-if bar, a status bar with its indicators, and the two
+/// panes. Actions carry their command's number; what they do, and when they are enabled and checked, stands
+/// in the document's command table.
 class CMainFrame : public QMainWindow {
     Q_OBJECT
 

@@ -16,7 +16,8 @@ CMyDialogBar::CMyDialogBar(COrrevaDoc& doc, QWidget* parent)
     connect(ui->parameter, &QComboBox::currentIndexChanged, this,
             [this](int selection) { Show(SelectBarParameter(document, selection)); });
     // Kept: the slider writes on its repaint too.
-    connect(ui->slider, &CPaintedSlider::Painted, this, [this](int position) { SlideBar(document, position); });
+    connect(ui->slider, &CPaintedSlider::Painted, this,
+            [this](int position) { SlideBar(document, position); });
     connect(ui->reset, &QPushButton::clicked, this, [this] { Show(ResetBar(document)); });
     connect(ui->accept, &QPushButton::clicked, this, [this] { Show(AcceptBar(document)); });
 }

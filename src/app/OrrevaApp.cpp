@@ -50,7 +50,10 @@ COrrevaApp::~COrrevaApp()
 
 COrrevaApp& COrrevaApp::Instance() { return *g_app; }
 
-QSettings COrrevaApp::Profile() { return QSettings(QSettings::NativeFormat, QSettings::UserScope, "VarnholtTelescope"); }
+QSettings COrrevaApp::Profile()
+{
+    return QSettings(QSettings::NativeFormat, QSettings::UserScope, "VarnholtTelescope");
+}
 
 bool COrrevaApp::InitInstance(const QStringList& arguments)
 {
@@ -101,7 +104,7 @@ bool COrrevaApp::ProcessShellCommand(const QStringList& arguments)
 {
     for (const QString& word : arguments) {
         if (!word.startsWith('-')) {
-            return document->OpenOldFormat(QFile::encodeName(word).constData());
+            return false;
         }
     }
     return true;

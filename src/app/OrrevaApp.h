@@ -24,8 +24,8 @@ public:
     /// the start fails.
     bool InitInstance(const QStringList& arguments);
 
-    /// The language commands: a message, the profile's entry, and the locale of dialogs that open from now on.
-    /// Texts of the code and the menu on the screen change at the next start.
+    /// The language commands: a message, the profile's entry, and the locale of dialogs that open from now
+    /// on. Texts of the code and the menu on the screen change at the next start.
     void OnLanguage(int language);
     /// Whether dialogs are built in German at this moment.
     bool IsThreadGerman() const { return threadGerman; }

@@ -20,7 +20,8 @@ namespace {
 
 QWidget* ActiveWindow() { return QApplication::activeWindow(); }
 
-int Box(QMessageBox::Icon icon, const QString& title, const QString& text, QMessageBox::StandardButtons buttons)
+int Box(QMessageBox::Icon icon, const QString& title, const QString& text,
+        QMessageBox::StandardButtons buttons)
 {
     QMessageBox box(icon, title, text, buttons, ActiveWindow());
     box.setTextFormat(Qt::PlainText);
@@ -105,7 +106,10 @@ bool CQtHost::AskRaytracingSettings(std::uint8_t miss_in_grey)
     return CRaytracingSettingsDialog(miss_in_grey, ActiveWindow()).exec() == QDialog::Accepted;
 }
 
-bool CQtHost::RunModal(Modal modal) { return document != nullptr && RunModalDialog(modal, *document, ActiveWindow()); }
+bool CQtHost::RunModal(Modal modal)
+{
+    return document != nullptr && RunModalDialog(modal, *document, ActiveWindow());
+}
 
 AssertAnswer CQtHost::AskAssert(const char* title, const char* text)
 {

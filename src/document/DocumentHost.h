@@ -21,6 +21,9 @@ struct QuickNewTexts {
     std::string focal_length;
 };
 
+/// What the dialog proposes, misspelt in both languages.
+inline const QuickNewTexts kQuickNewTexts{"Untitleld Telescope", "250", "1500"};
+
 /// The modal sheets and dialogs that commands open; each runs on the current document.
 enum class Modal {
     TelescopeSheet, ///< also the wizard of New (detailed), by g_nWizard

@@ -62,7 +62,7 @@ void COrrevaDoc::DropTelescope()
 void COrrevaDoc::OnFileNewQuick()
 {
     active_record->Reset();
-    QuickNewTexts texts{"Untitleld Telescope", "250", "1500"};
+    QuickNewTexts texts = kQuickNewTexts;
     if (!host.AskQuickNew(texts)) {
         DropTelescope();
         return;

@@ -18,5 +18,6 @@ CQuickNewDialog::~CQuickNewDialog() = default;
 
 QuickNewTexts CQuickNewDialog::Texts() const
 {
-    return {FromQString(ui->title->text()), FromQString(ui->aperture->text()), FromQString(ui->focalLength->text())};
+    return {FromQString(ui->title->text()), FromQString(ui->aperture->text()),
+            FromQString(ui->focalLength->text())};
 }

@@ -9,8 +9,8 @@ namespace Ui {
 class RaytracingSettingsDialog;
 }
 
-/// Rays that miss the focal plane: shown in grey, or not. The dialog opens on the button of the present value;
-/// what its OK does is the document's business.
+/// Rays that miss the focal plane: shown in grey, or not. The dialog opens on the button of the present
+/// value; what its OK does is the document's business.
 class CRaytracingSettingsDialog : public QDialog {
     Q_OBJECT
 

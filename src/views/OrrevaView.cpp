@@ -49,7 +49,8 @@ void COrrevaView::OnPrint(QPrinter& printer)
 
 void COrrevaView::mouseMoveEvent(QMouseEvent*)
 {
-    const bool rays = document.ray_parallel != 0 || document.ray_from_focal_plane != 0 || document.ray_from_mouse != 0;
+    const bool rays =
+        document.ray_parallel != 0 || document.ray_from_focal_plane != 0 || document.ray_from_mouse != 0;
     if (document.HasFile() && rays) {
         update();
     }

@@ -1,5 +1,7 @@
 #include "views/Pane.h"
 
+#include <QEvent>
+
 CPane::CPane(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), document(doc)
 {
     setFocusPolicy(Qt::StrongFocus);
@@ -10,8 +12,10 @@ CPane::CPane(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), document(doc)
 
 bool CPane::OnCommand(std::int32_t) { return false; }
 
-void CPane::focusInEvent(QFocusEvent* event)
+bool CPane::event(QEvent* event)
 {
-    QWidget::focusInEvent(event);
-    emit Activated(this);
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress) {
+        emit Activated(this);
+    }
+    return QWidget::event(event);
 }

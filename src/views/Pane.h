@@ -24,7 +24,7 @@ signals:
     void Activated(CPane* pane);
 
 protected:
-    void focusInEvent(QFocusEvent* event) override;
+    bool event(QEvent* event) override;
 
     COrrevaDoc& document;
 };

@@ -1,0 +1,209 @@
+#include "cli/Words.h"
+
+#include "lib/CharTools.h"
+#include "lib/Numbers.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+
+namespace {
+
+constexpr std::uint32_t kTelescopeVerbs = kReport | kRays | kDraw | kSaveVerb | kExport;
+constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc;
+
+struct VerbName {
+    std::string_view name;
+    Verb verb;
+};
+
+constexpr VerbName kVerbs[] = {{"report", kReport}, {"rays", kRays},     {"draw", kDraw}, {"save", kSaveVerb},
+                               {"import", kImport}, {"export", kExport}, {"calc", kCalc}};
+
+struct Option {
+    std::string_view name;
+    bool takesValue;
+    std::uint32_t verbs;
+};
+
+constexpr Option kOptions[] = {
+    {"--help", false, kAllVerbs},
+    {"--version", false, kAllVerbs},
+    {"--language", true, kAllVerbs},
+    {"-o", true, kAllVerbs},
+    {"--diameter", true, kTelescopeVerbs},
+    {"--focal-length", true, kTelescopeVerbs},
+    {"--title", true, kTelescopeVerbs},
+    {"--set", true, kTelescopeVerbs},
+    {"--page", true, kReport},
+    {"--details", false, kReport},
+    {"--zones", true, kReport},
+    {"--centre", true, kReport},
+    {"--edge", true, kReport},
+    {"--template", true, kReport},
+    {"--method", true, kReport},
+    {"--source", true, kReport},
+    {"--mode", true, kRays | kDraw},
+    {"--pointer", true, kRays | kDraw},
+    {"--hide-lost", false, kRays},
+    {"--no-offset", false, kRays | kDraw},
+    {"--picture", true, kDraw},
+    {"--size", true, kDraw},
+    {"--zoom", true, kDraw},
+    {"--scroll", true, kDraw},
+    {"--extended", false, kDraw},
+    {"--box-and-cage", false, kDraw},
+    {"--seed", true, kDraw},
+    {"--type", true, kDraw},
+    {"--thickness", true, kDraw},
+    {"--value", true, kDraw},
+};
+
+const Option* FindOption(std::string_view word)
+{
+    const auto found = std::ranges::find(kOptions, word, &Option::name);
+    return found == std::end(kOptions) ? nullptr : found;
+}
+
+bool LooksLikeOption(std::string_view word) { return word.size() > 1 && word.front() == '-'; }
+
+/// The first word that is neither an option nor the value of one; the number of words if there is none.
+std::size_t FindVerb(const std::vector<std::string>& words)
+{
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const Option* const option = FindOption(words[i]);
+        if (option != nullptr) {
+            i += option->takesValue ? 1 : 0;
+        } else if (!LooksLikeOption(words[i])) {
+            return i;
+        }
+    }
+    return words.size();
+}
+
+} // namespace
+
+bool Words::Has(std::string_view option) const { return !Values(option).empty(); }
+
+std::optional<std::string> Words::Value(std::string_view option) const
+{
+    const std::vector<std::string> values = Values(option);
+    return values.empty() ? std::nullopt : std::optional(values.back());
+}
+
+std::vector<std::string> Words::Values(std::string_view option) const
+{
+    std::vector<std::string> values;
+    for (const auto& [name, value] : options) {
+        if (name == option) {
+            values.push_back(value);
+        }
+    }
+    return values;
+}
+
+Words TakeApart(const std::vector<std::string>& arguments)
+{
+    Words words;
+    words.help = std::ranges::find(arguments, "--help") != arguments.end();
+    words.version = std::ranges::find(arguments, "--version") != arguments.end();
+    const std::size_t verbAt = FindVerb(arguments);
+    const auto verb = verbAt < arguments.size() ? std::ranges::find(kVerbs, arguments[verbAt], &VerbName::name)
+                                                : std::end(kVerbs);
+    if (verb != std::end(kVerbs)) {
+        words.verb = verb->verb;
+    } else if (words.help || words.version) {
+        return words;
+    } else if (verbAt < arguments.size()) {
+        UsageError("unknown verb", arguments[verbAt]);
+    }
+
+    bool optionsEnded = false;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& word = arguments[i];
+        if (i == verbAt) {
+            continue;
+        }
+        const Option* const option = optionsEnded ? nullptr : FindOption(word);
+        const bool belongs = option != nullptr && (option->verbs & words.verb) != 0;
+        if (belongs && option->takesValue) {
+            if (i + 1 == arguments.size()) {
+                UsageError("a value is missing behind", word);
+            }
+            words.options.emplace_back(word, arguments[++i]);
+        } else if (belongs) {
+            words.options.emplace_back(word, "");
+        } else if (!optionsEnded && word == "--") {
+            optionsEnded = true;
+        } else if (!optionsEnded && LooksLikeOption(word) && words.verb != kCalc) {
+            UsageError("unknown option", word);
+        } else {
+            words.plain.push_back(word);
+        }
+    }
+    if (verb == std::end(kVerbs)) {
+        UsageError("a verb is missing; see", "--help");
+    }
+    return words;
+}
+
+void UsageError(const std::string& reason, const std::string& word)
+{
+    std::string line = "orreva-cli: " + reason + " " + word;
+    std::ranges::replace_if(line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    std::fprintf(stderr, "%s\n", line.c_str());
+    std::exit(2);
+}
+
+std::size_t ChoiceOf(const std::string& option, const std::string& value,
+                     std::initializer_list<std::string_view> choices)
+{
+    const auto found = std::ranges::find(choices, value);
+    if (found == choices.end()) {
+        UsageError(option + " does not take", value);
+    }
+    return static_cast<std::size_t>(found - choices.begin());
+}
+
+std::int32_t WholeNumber(const std::string& option, const std::string& value, std::int32_t low, std::int32_t high)
+{
+    std::int32_t number = 0;
+    const char* const end = value.data() + value.size();
+    const auto read = std::from_chars(value.data(), end, number);
+    if (read.ec != std::errc() || read.ptr != end || number < low || number > high) {
+        UsageError(option + " does not take", value);
+    }
+    return number;
+}
+
+std::pair<double, double> NumberPair(const std::string& option, const std::string& value)
+{
+    const std::size_t comma = value.find(',');
+    const auto number = [&](const std::string& text) {
+        double read = 0.0;
+        const char* const end = text.data() + text.size();
+        const char* const begin = text.data() + (text.starts_with('+') ? 1 : 0);
+        const auto result = std::from_chars(begin, end, read);
+        if (result.ec != std::errc() || result.ptr != end || !std::isfinite(read)) {
+            UsageError(option + " does not take", value);
+        }
+        return read;
+    };
+    if (comma == std::string::npos) {
+        UsageError(option + " does not take", value);
+    }
+    return {number(value.substr(0, comma)), number(value.substr(comma + 1))};
+}
+
+std::pair<std::int32_t, std::int32_t> WholePair(const std::string& option, const std::string& value, char separator,
+                                                std::int32_t low, std::int32_t high)
+{
+    const std::size_t at = value.find(separator);
+    if (at == std::string::npos) {
+        UsageError(option + " does not take", value);
+    }
+    return {WholeNumber(option, value.substr(0, at), low, high), WholeNumber(option, value.substr(at + 1), low, high)};
+}

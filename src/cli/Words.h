@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+/// What the command line may do; a set of them says where an option belongs.
+enum Verb : std::uint32_t {
+    kReport = 1,
+    kRays = 2,
+    kDraw = 4,
+    kSaveVerb = 8,
+    kImport = 16,
+    kExport = 32,
+    kCalc = 64,
+};
+
+/// The command line, taken apart: the verb, the words that are no options, and the options in their order.
+struct Words {
+    Verb verb = kReport;
+    std::vector<std::string> plain;
+    std::vector<std::pair<std::string, std::string>> options;
+    bool help = false;
+    bool version = false;
+
+    bool Has(std::string_view option) const;
+    /// The last value given for an option.
+    std::optional<std::string> Value(std::string_view option) const;
+    std::vector<std::string> Values(std::string_view option) const;
+};
+
+/// Takes `arguments` (behind the program's name) apart. A word that is not understood ends the program.
+Words TakeApart(const std::vector<std::string>& arguments);
+
+/// Ends the program with status 2 and one line on standard error that names the word at fault.
+[[noreturn]] void UsageError(const std::string& reason, const std::string& word);
+
+// Values that must be understood whole, else the program ends as above ----------------------------------
+
+/// The index of a value among `choices`.
+std::size_t ChoiceOf(const std::string& option, const std::string& value,
+                     std::initializer_list<std::string_view> choices);
+/// A whole number between two ends, both included.
+std::int32_t WholeNumber(const std::string& option, const std::string& value, std::int32_t low, std::int32_t high);
+/// Two numbers with decimal points, "X,Y".
+std::pair<double, double> NumberPair(const std::string& option, const std::string& value);
+/// Two whole numbers parted by `separator`.
+std::pair<std::int32_t, std::int32_t> WholePair(const std::string& option, const std::string& value, char separator,
+                                                std::int32_t low, std::int32_t high);

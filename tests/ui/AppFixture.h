@@ -1,0 +1,61 @@
+#pragma once
+
+#include "app/MainFrame.h"
+#include "app/OrrevaApp.h"
+#include "lib/Language.h"
+#include "pages/Controls.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+#include <functional>
+
+/// The whole program, started in a language with an empty profile, in a folder of its own. Help pages are not
+/// opened but noted.
+class AppFixture : public testing::Test {
+protected:
+    explicit AppFixture(int language = kEnglish);
+    ~AppFixture() override;
+
+    QAction* Action(int commandId) const;
+    /// Chooses a command in the menu.
+    void Choose(int commandId) const;
+    /// Makes the telescope that the quick New dialog proposes.
+    void MakeTelescope() const;
+    /// Runs `act` on the modal dialog that opens next; fails the test if none does or it stays open.
+    template <typename Dialog = QDialog>
+    void InNextDialog(std::function<void(Dialog&)> act)
+    {
+        ++expectedDialogs;
+        QTimer::singleShot(0, &context, [this, act = std::move(act)] {
+            auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(nullptr, dialog);
+            ++seenDialogs;
+            act(*dialog);
+        });
+    }
+
+    static void Click(const QWidget& parent, int controlId);
+    static void Type(const QWidget& parent, int controlId, const QString& text);
+    static QString Text(const QWidget& parent, int controlId);
+
+    TemporaryFolder folder;
+    QObject context;
+    std::unique_ptr<COrrevaApp> app;
+    std::vector<QUrl> helpPages;
+    int expectedDialogs = 0;
+    int seenDialogs = 0;
+};
+
+class GermanAppFixture : public AppFixture {
+protected:
+    GermanAppFixture() : AppFixture(kGerman) {}
+};
