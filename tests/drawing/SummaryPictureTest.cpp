@@ -1,0 +1,101 @@
+#include "drawing/SummaryPicture.h"
+
+#include "lib/Language.h"
+#include "model/Summary.h"
+#include "support/RecordingSurface.h"
+#include "support/SampleScopes.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr Colour kField{51, 153, 102};
+constexpr Colour kText{240, 240, 240};
+constexpr Colour kRed{255, 0, 0};
+
+using Call = drawn::Call;
+
+TEST(SummaryPicture, StaysPlainGreenWithoutATelescope)
+{
+    COrrevaData record;
+    for (const std::int32_t width : {1, 400, 3000}) {
+        RecordingSurface pane(width, 700);
+        PaintSummary(pane, record, {12, 0.5}, kEnglish);
+        EXPECT_EQ((std::vector<Call>{drawn::FillRect{{0, 0, width, 700}, kField}}), pane.calls);
+    }
+}
+
+TEST(SummaryPicture, SetsLabelsAndValuesInTwoColumns)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    record.SetTitle("Round");
+    RecordingSurface pane(400, 700);
+    PaintSummary(pane, record, {20, 1.5}, kEnglish);
+    const Font plain{14, 200};
+    const Font bold{14, 600};
+    const std::vector<Call> first = {
+        drawn::FillRect{{0, 0, 400, 700}, kField},
+        drawn::WrappedText{{2, 2, 400, 1002}, "Round", bold, kText},
+        drawn::WrappedText{{2, 26, 160, 1026}, "Primary", bold, kText}, // 14 and 10 further down
+        drawn::WrappedText{{2, 40, 160, 1040}, "Diameter:", plain, kText},
+        drawn::WrappedText{{160, 40, 400, 1040}, "200.0 mm (7.87\")", plain, kText},
+        drawn::WrappedText{{2, 54, 160, 1054}, "Focal Length:", plain, kText},
+    };
+    for (std::size_t i = 0; i < first.size(); ++i) {
+        EXPECT_EQ(first[i], pane.calls.at(i)) << i;
+    }
+    // The last row stands below 24 others and six gaps; two labels of 29 characters take a second line, that
+    // of 26 just fits into 158 pixels.
+    const auto texts = pane.Of<drawn::WrappedText>();
+    EXPECT_EQ((drawn::WrappedText{
+                  {160, 2 + 24 * 14 + 6 * 10 + 2 * 14, 400, 1426}, "32.00 mm  (1.83\xB0)", plain, kText}),
+              texts.back());
+}
+
+TEST(SummaryPicture, MovesWhatFollowsDownWhenALabelWraps)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    RecordingSurface pane(400, 700);
+    PaintSummary(pane, record, {20, 1.5}, kGerman);
+    const auto texts = pane.Of<drawn::WrappedText>();
+    for (std::size_t i = 0; i + 2 < texts.size(); ++i) {
+        if (texts[i].text == "Durchmesser der kleinen Achse:") { // 30 characters
+            EXPECT_EQ(texts[i].box.top, texts[i + 1].box.top);
+            EXPECT_EQ(texts[i].box.top + 28, texts[i + 2].box.top);
+            return;
+        }
+    }
+    FAIL() << "the row is missing";
+}
+
+TEST(SummaryPicture, WritesAWarningValueRedAndItsLabelLight)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    record.SetWanted100PercentFow(30);
+    RecordingSurface pane(400, 700);
+    PaintSummary(pane, record, {20, 1.5}, kEnglish);
+    const auto texts = pane.Of<drawn::WrappedText>();
+    const std::size_t last = texts.size() - 1;
+    EXPECT_EQ("32.00 mm  (1.83\xB0)", texts[last].text);
+    EXPECT_EQ(kText, texts[last].colour) << "light again after the red one";
+    EXPECT_EQ("20.00 mm (1.50\xB0)", texts[last - 2].text);
+    EXPECT_EQ(kRed, texts[last - 2].colour);
+    EXPECT_EQ(kText, texts[last - 3].colour) << "the label";
+}
+
+TEST(SummaryPicture, KeepsItsColumnsOnPaperWithALargerFont)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    RecordingSurface page(800, 1000);
+    PaintSummary(page, record, {20, 1.5}, kEnglish, kPaperFontHeight);
+    const auto texts = page.Of<drawn::WrappedText>();
+    EXPECT_EQ((drawn::WrappedText{{2, 2 + 24 + 10 + 24, 160, 1060}, "Diameter:", {24, 200}, kText}),
+              texts.at(2));
+    EXPECT_EQ((drawn::WrappedText{{160, 60, 400, 1060}, "200.0 mm (7.87\")", {24, 200}, kText}), texts.at(3));
+}
+
+} // namespace
