@@ -12,8 +12,8 @@ inline std::vector<std::string> ShownList(const ListRows& rows)
     std::vector<std::string> lines;
     for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
         std::string line;
-        for (const std::string& cell : *row) {
-            line += (line.empty() ? "" : " | ") + cell;
+        for (std::size_t i = 0; i < row->size(); ++i) {
+            line += (i == 0 ? "" : " | ") + (*row)[i];
         }
         lines.push_back(Utf8FromCp1252(line));
     }
