@@ -3,6 +3,7 @@
 #include "lib/CodePage.h"
 
 #include <algorithm>
+#include <iterator>
 
 const ReportPage* FindReportPage(std::string_view name)
 {
@@ -30,10 +31,14 @@ std::string ReportLine(const ListRow& cells)
 {
     std::string line;
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        std::string cell = cells[i];
-        std::ranges::replace_if(
-            cell, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
-        line += (i == 0 ? "" : "\t") + cell;
+        line += i == 0 ? "" : "\t";
+        for (std::size_t k = 0; k < cells[i].size(); ++k) {
+            const char c = cells[i][k];
+            if (c == '\r' && cells[i][k + 1] == '\n') {
+                continue; // one line break, one blank
+            }
+            line += c == '\t' || c == '\n' || c == '\r' ? ' ' : c;
+        }
     }
     return line;
 }
