@@ -1,0 +1,58 @@
+#pragma once
+
+#include "lib/Language.h"
+#include "model/ListRow.h"
+#include "model/OrrevaData.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What a report page may ask for: the one telescope that all pages of a run share, and how to show it.
+struct ReportContext {
+    COrrevaData& record;
+    /// The document's figures after its last recalculation.
+    double field_angle_100 = 0;
+    double field_diameter_100 = 0;
+    double mirror_back_position = 0;
+    int language = kEnglish;
+    /// The check box Show Details.
+    bool details = false;
+    const char* eyepiece_path = "eyepiece.dat";
+};
+
+/// Lines without line ends, as bytes of code page 1252.
+using ReportLines = std::vector<std::string>;
+
+struct ReportPage {
+    const char* name;
+    ReportLines (*lines)(const ReportContext& context);
+};
+
+/// All pages in the order in which a report without a choice prints them.
+std::span<const ReportPage> ReportPages();
+
+/// The page of a name, null if there is none.
+const ReportPage* FindReportPage(std::string_view name);
+
+/// The pages one after the other, each under the line "# NAME", in UTF-8 with LF line ends.
+std::string ReportText(std::span<const ReportPage* const> pages, const ReportContext& context);
+
+// For the makers of pages -------------------------------------------------------------------------------
+
+/// One line of cells parted by TAB; a line break or TAB inside a cell becomes a blank.
+std::string ReportLine(const ListRow& cells);
+
+/// The rows as the user reads them: the last one made stands on top.
+void AppendRows(ReportLines& lines, const ListRows& rows);
+
+// The pages of the telescope sheet ----------------------------------------------------------------------
+
+ReportLines PrimaryReport(const ReportContext& context);
+ReportLines SecondaryReport(const ReportContext& context);
+ReportLines TubeReport(const ReportContext& context);
+ReportLines FocuserReport(const ReportContext& context);
+ReportLines CellReport(const ReportContext& context);
+ReportLines EyepiecesReport(const ReportContext& context);
+ReportLines BalanceReport(const ReportContext& context);

@@ -1,0 +1,11 @@
+#include "cli/Report.h"
+
+std::span<const ReportPage> ReportPages()
+{
+    static constexpr ReportPage kPages[] = {
+        {"primary", PrimaryReport}, {"secondary", SecondaryReport}, {"tube", TubeReport},
+        {"focuser", FocuserReport}, {"cell", CellReport},           {"eyepieces", EyepiecesReport},
+        {"balance", BalanceReport},
+    };
+    return kPages;
+}
