@@ -1,0 +1,79 @@
+// The nine Ronchi patterns on a painter: one block of pixels, beside a call of the painter for each dot. Both
+// paint the same dots, or the run says so and fails.
+
+#include "drawing/RonchiPicture.h"
+#include "views/PainterSurface.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int kWidth = 640;
+constexpr int kHeight = 680;
+const RonchiTest kTest(250, 1500, 5, 1);
+
+QImage EmptyPicture()
+{
+    QImage picture(kWidth, kHeight, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    return picture;
+}
+
+void PaintBlock(QImage& picture)
+{
+    RonchiGenerator generator(1);
+    QPainter painter(&picture);
+    PainterSurface surface(painter, kWidth, kHeight);
+    surface.Image(RonchiBlock::kAt, RonchiBlock::kSide, RonchiPatterns(kTest, generator));
+}
+
+void PaintDots(QImage& picture)
+{
+    RonchiGenerator generator(1);
+    QPainter painter(&picture);
+    painter.setPen(Qt::black);
+    for (const auto& [centre, offset] : kRonchiPatterns) {
+        const auto [cx, cy] = centre;
+        ScatterRonchiDots(kTest, offset, generator, [&](std::int32_t px, std::int32_t py) {
+            painter.drawPoint(cx - px, cy - py);
+            painter.drawPoint(cx - px, cy + py);
+            painter.drawPoint(cx + px, cy - py);
+            painter.drawPoint(cx + px, cy + py);
+        });
+    }
+}
+
+void NinePatterns(benchmark::State& state, void (*paint)(QImage&))
+{
+    QImage picture = EmptyPicture();
+    for (auto _ : state) {
+        paint(picture);
+        benchmark::DoNotOptimize(picture.bits());
+    }
+}
+BENCHMARK_CAPTURE(NinePatterns, OurWay, PaintBlock)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(NinePatterns, DirectWay, PaintDots)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QGuiApplication application(argc, argv);
+    QImage block = EmptyPicture();
+    QImage dots = EmptyPicture();
+    PaintBlock(block);
+    PaintDots(dots);
+    if (block != dots) {
+        std::fputs("The two ways differ in their dots.\n", stderr);
+        return 1;
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
