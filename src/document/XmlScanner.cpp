@@ -93,7 +93,10 @@ const char* XmlScanner::GetValue(const char* key, char* buffer, std::size_t nBuf
     for (std::size_t i = 0; i < kMostComponents && !rest.empty() && position != kNotFound; ++i) {
         const std::string_view component = rest.substr(0, rest.find('/'));
         rest.remove_prefix(std::min(rest.size(), component.size() + 1));
-        position = component.empty() ? kNotFound : FindComponent(component, position);
+        if (component.empty()) {
+            break; // marks the end of the key
+        }
+        position = FindComponent(component, position);
     }
     if (position == kNotFound || position == 0) {
         return buffer;
