@@ -1,7 +1,10 @@
 #include "document/OrrevaDoc.h"
 
 #include "document/FileMasks.h"
+#include "document/FtaExport.h"
+#include "document/OsloExport.h"
 #include "lib/CodePage.h"
+#include "lib/FileBytes.h"
 #include "lib/Log.h"
 #include "lib/Numbers.h"
 
@@ -111,6 +114,28 @@ void COrrevaDoc::OnFileSaveAs()
     const std::string path = host.AskPath(kSaveTelescope);
     if (!path.empty()) {
         active_record->SaveAs(path.c_str());
+    }
+}
+
+void COrrevaDoc::OnImportOld()
+{
+    const std::string path = host.AskPath(OpenOldFormat(g_nLanguage));
+    if (!path.empty()) {
+        OpenOldFile(path.c_str());
+    }
+}
+
+void COrrevaDoc::OnExportOslo() { WriteExport(kExportOslo, OsloExport(*this), "Error writing"); }
+
+void COrrevaDoc::OnExportFta() { WriteExport(kExportFta, FtaExport(*active_record), "Error writing..."); }
+
+/// The text is made before the dialog opens; none fails like a file that cannot be written.
+void COrrevaDoc::WriteExport(const FileDialog& dialog, const std::optional<std::string>& text,
+                             const char* error)
+{
+    const std::string path = host.AskPath(dialog);
+    if (!path.empty() && !(text && ReplaceFile(path.c_str(), *text))) {
+        host.ShowMessage(error);
     }
 }
 

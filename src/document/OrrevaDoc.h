@@ -6,6 +6,10 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <string>
+
+class OldArchive;
 
 /// One parameter of the what-if bar.
 struct BarParam {
@@ -29,6 +33,9 @@ public:
     void OnFileOpen();
     void OnFileSave();
     void OnFileSaveAs();
+    void OnImportOld();
+    void OnExportOslo();
+    void OnExportFta();
     void OnProperties();
     void OnTubeProperties();
     void OnRayParallel() { ToggleRayMode(&ViewSwitches::ray_parallel); }
@@ -39,8 +46,16 @@ public:
     void OnShowExtendedFocuser() { ToggleSwitch(&ViewSwitches::show_extended_focuser); }
     void OnShowBoxAndCage() { ToggleSwitch(&ViewSwitches::show_box_and_cage); }
 
+    /// Opens a file of the old format (bytes of the file system), also one that the command line or the shell
+    /// hands over. A failure is told and gives false; the record keeps what was read. After success the
+    /// document's title is the file's name, until the next reset of a record.
+    bool OpenOldFile(const char* path);
+
     /// Raises the save prompt, which has no Cancel: the caller closes in any case.
     void OnCloseDocument();
+
+    /// Reads the old format, then recalculates. False if the archive ends early: nothing is recalculated.
+    bool Serialize(OldArchive& archive);
 
     // What pages, views and exports use ------------------------------------------------------------------
 
@@ -65,6 +80,7 @@ private:
     void ToggleRayMode(std::uint8_t ViewSwitches::*mode);
     void ToggleSwitch(std::uint8_t ViewSwitches::*view);
     void DropTelescope();
+    void WriteExport(const FileDialog& dialog, const std::optional<std::string>& text, const char* error);
 
     bool AskYesNo(const char* text) override { return host.AskYesNo(text); }
     void ShowMessage(const char* text) override { host.ShowMessage(text); }

@@ -47,20 +47,28 @@ void XmlScanner::Take(std::string_view text)
     m_hasText = true;
     m_text = WithPlainLineEnds(text.substr(0, text.find('\0')));
     for (std::size_t at = m_text.find('<'); at != kNotFound; at = m_text.find('<', at + 1)) {
-        m_brackets[Bucket(m_text.c_str()[at + 1])].push_back(static_cast<std::uint32_t>(at));
+        const char next = m_text.c_str()[at + 1];
+        if (next != '<') { // begins no name
+            m_brackets[Bucket(next)].push_back(static_cast<std::uint32_t>(at));
+        }
     }
 }
 
 /// Whether the bracket is lost because a match of the component is under way when the walk reaches it: the
 /// character that ends a failed match is not looked at again. A match under way began at the bracket before,
-/// with nothing but the component's beginning between the two, unless that one is lost itself.
+/// with nothing but the component's beginning between the two, unless that one is lost itself. Brackets in a
+/// row are lost by turns.
 bool XmlScanner::IsSwallowed(std::size_t bracket, std::string_view component, std::size_t from) const
 {
+    const std::string_view text = m_text;
     bool swallowed = false;
     for (std::size_t later = bracket; later > from;) {
-        const std::size_t before = m_text.rfind('<', later - 1);
-        if (before == kNotFound || before < from || later - before > component.size() ||
-            m_text.compare(before + 1, later - before - 1, component, 0, later - before - 1) != 0) {
+        const std::size_t first = std::max(from, text.find_last_not_of('<', later - 1) + 1);
+        swallowed = swallowed != ((later - first) % 2 != 0);
+        const std::size_t reach = std::max(from, first - std::min(first, component.size()));
+        const std::size_t back = text.substr(reach, first - reach).rfind('<');
+        const std::size_t before = reach + back;
+        if (back == kNotFound || !component.starts_with(text.substr(before + 1, first - before - 1))) {
             break;
         }
         swallowed = !swallowed;
@@ -72,9 +80,19 @@ bool XmlScanner::IsSwallowed(std::size_t bracket, std::string_view component, st
 /// Position behind the first `<` with the component behind it, from `from` on.
 std::size_t XmlScanner::FindComponent(std::string_view component, std::size_t from) const
 {
+    const auto [entry, is_new] = m_found.try_emplace({from, std::string(component)}, kNotFound);
+    if (is_new) {
+        entry->second = SearchComponent(component, from);
+    }
+    return entry->second;
+}
+
+std::size_t XmlScanner::SearchComponent(std::string_view component, std::size_t from) const
+{
+    const std::string_view text = m_text;
     const auto& brackets = m_brackets[Bucket(component.front())];
     for (auto at = std::lower_bound(brackets.begin(), brackets.end(), from); at != brackets.end(); ++at) {
-        if (m_text.compare(*at + 1, component.size(), component) == 0 && !IsSwallowed(*at, component, from)) {
+        if (text.substr(*at + 1).starts_with(component) && !IsSwallowed(*at, component, from)) {
             return *at + 1 + component.size();
         }
     }
@@ -93,7 +111,10 @@ const char* XmlScanner::GetValue(const char* key, char* buffer, std::size_t nBuf
     for (std::size_t i = 0; i < kMostComponents && !rest.empty() && position != kNotFound; ++i) {
         const std::string_view component = rest.substr(0, rest.find('/'));
         rest.remove_prefix(std::min(rest.size(), component.size() + 1));
-        position = component.empty() ? kNotFound : FindComponent(component, position);
+        if (component.empty()) {
+            break; // marks the end of the key
+        }
+        position = FindComponent(component, position);
     }
     if (position == kNotFound || position == 0) {
         return buffer;

@@ -3,8 +3,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// Finds values in a design file. It knows nothing of nesting: a key is a chain of tag-name prefixes that
@@ -30,10 +32,13 @@ public:
 private:
     void Take(std::string_view text);
     std::size_t FindComponent(std::string_view component, std::size_t from) const;
+    std::size_t SearchComponent(std::string_view component, std::size_t from) const;
     bool IsSwallowed(std::size_t bracket, std::string_view component, std::size_t from) const;
 
     bool m_hasText = false;
     std::string m_text;
     /// Positions of the opening brackets, by the byte that follows them.
     std::array<std::vector<std::uint32_t>, 256> m_brackets;
+    /// What earlier keys found: keys share their first components.
+    mutable std::map<std::pair<std::size_t, std::string>, std::size_t> m_found;
 };

@@ -1,0 +1,22 @@
+#include "document/FtaExport.h"
+#include "document/OldArchive.h"
+#include "document/OrrevaDoc.h"
+#include "document/OsloExport.h"
+#include "document/TelescopeFile.h"
+#include "document/XmlScanner.h"
+#include "support/SilentHost.h"
+
+// Any bytes as an old file; what came in must go out by every way that writes a telescope.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    SilentHost host;
+    COrrevaDoc document(host);
+    OldArchive archive({reinterpret_cast<const char*>(data), size});
+    document.Serialize(archive);
+
+    COrrevaData again;
+    ReadTelescope(XmlScanner::FromText(WriteTelescope(*document.active_record)), again);
+    FtaExport(*document.active_record);
+    OsloExport(document);
+    return 0;
+}
