@@ -38,6 +38,15 @@ AssertDesktop* SetAssertDesktop(AssertDesktop* desktop)
     return before;
 }
 
+AssertDesktop& CurrentDesktop() { return g_desktop != nullptr ? *g_desktop : g_noDesktop; }
+
+void AssertDesktop::ShowBox(const char* title, const char* text, bool)
+{
+    std::fprintf(stderr, "%s: %s\n", title, text);
+}
+
+bool AssertDesktop::ChooseFolder(const char*, const char*, LibString&) { return false; }
+
 void AssertFail(const char* expr, const char* file, int line, const char* msg)
 {
     char text[256];
@@ -49,7 +58,7 @@ void AssertFail(const char* expr, const char* file, int line, const char* msg)
     }
     LogText((std::string(text) + "\n").c_str());
 
-    AssertDesktop& desktop = g_desktop != nullptr ? *g_desktop : g_noDesktop;
+    AssertDesktop& desktop = CurrentDesktop();
     switch (desktop.AskAssert("Assert", text)) {
     case AssertAnswer::Abort:
         desktop.CloseMainWindow();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lib/Assertion.h"
+#include "lib/LibString.h"
 
 #include <string>
 #include <vector>
@@ -21,7 +22,18 @@ public:
     void CloseMainWindow() override { calls.push_back("close"); }
     void BreakIntoDebugger() override { calls.push_back("break"); }
     void FatalAppExit(const char* text) override { calls.push_back(std::string("exit: ") + text); }
+    void ShowBox(const char* title, const char* text, bool bStop) override
+    {
+        calls.push_back(std::string(bStop ? "stop " : "box ") + title + ": " + text);
+    }
+    bool ChooseFolder(const char* title, const char* root, LibString& target) override
+    {
+        calls.push_back(std::string("choose ") + title + ": " + (root != nullptr ? root : "anywhere"));
+        target = folder.c_str();
+        return !folder.empty();
+    }
 
+    std::string folder; ///< what is chosen, empty for nothing
     AssertAnswer answer = AssertAnswer::Ignore;
     std::vector<std::string> calls;
 
