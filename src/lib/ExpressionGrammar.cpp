@@ -1,0 +1,186 @@
+#include "lib/ErrCode.h"
+#include "lib/ExprFunctions.h"
+#include "lib/ExprTokens.h"
+#include "lib/ExprValues.h"
+#include "lib/ExpressionEvaluator.h"
+#include "lib/Numbers.h"
+
+#include <cmath>
+#include <iterator>
+
+namespace {
+
+/// Both sides of an operator are always evaluated.
+struct BinaryOperator {
+    std::uint32_t nToken;
+    int nLevel; ///< how tight it binds
+    double (*pfApply)(double, double);
+};
+
+std::uint32_t Bits(double d) { return static_cast<std::uint32_t>(TruncToLow32(d)); }
+
+double Quotient(double a, double b)
+{
+    if (b == 0.0) {
+        throw ErrCode::DivisionByZero;
+    }
+    return a / b;
+}
+
+constexpr int kLoosestLevel = 1;
+
+/// The six levels of operators from the loosest to the tightest. Operators of one level have equal rank and
+/// associate to the left, the power too.
+constexpr BinaryOperator kBinaryOperators[] = {
+    {kTokenLogicalOr, 1, [](double a, double b) { return a == 0.0 && b == 0.0 ? 0.0 : 1.0; }},
+    {kTokenLogicalAnd, 1, [](double a, double b) { return a != 0.0 && b != 0.0 ? 1.0 : 0.0; }},
+    {kTokenOr, 2, [](double a, double b) { return static_cast<double>(Bits(a) | Bits(b)); }},
+    {kTokenAnd, 2, [](double a, double b) { return static_cast<double>(Bits(a) & Bits(b)); }},
+    {kTokenGreater, 3, [](double a, double b) { return a > b ? 1.0 : 0.0; }},
+    {kTokenLess, 3, [](double a, double b) { return a < b ? 1.0 : 0.0; }},
+    {kTokenEqual, 3, [](double a, double b) { return a == b ? 1.0 : 0.0; }},
+    {kTokenPlus, 4, [](double a, double b) { return a + b; }},
+    {kTokenMinus, 4, [](double a, double b) { return a - b; }},
+    {kTokenTimes, 5, [](double a, double b) { return a * b; }},
+    {kTokenDivide, 5, Quotient},
+    {kTokenPower, 6, [](double a, double b) { return std::pow(a, b); }},
+};
+static_assert(std::size(kBinaryOperators) == kTokenPower - kTokenLogicalOr + 1);
+
+/// The operator of a token; null for any other token. The table is in the order of the tokens.
+const BinaryOperator* FindOperator(std::uint32_t nToken)
+{
+    const bool bOperator = nToken >= kTokenLogicalOr && nToken <= kTokenPower;
+    return bOperator ? &kBinaryOperators[nToken - kTokenLogicalOr] : nullptr;
+}
+
+} // namespace
+
+void CExpressionEvaluator::ReadExpression(const char* psz, ExprResult& result)
+{
+    ReadOperators(psz, kLoosestLevel, result);
+    const std::uint32_t nToken = ReadExprToken(psz + result.nLength).nToken;
+    if (nToken != kTokenEnd) {
+        // A token with a code of its own shows the low eight bits of that code: kept.
+        const char szToken[] = {static_cast<char>(nToken), 0};
+        SetErrorArg(szToken);
+        throw ErrCode::UnknownCharacter;
+    }
+}
+
+/// Operands and the operators between them, of the level `nLoosest` and tighter.
+void CExpressionEvaluator::ReadOperators(const char* psz, int nLoosest, ExprResult& result)
+{
+    ReadFactorial(psz, result);
+    for (;;) {
+        const ExprToken token = ReadExprToken(psz + result.nLength);
+        const BinaryOperator* const pOperator = FindOperator(token.nToken);
+        if (pOperator == nullptr || pOperator->nLevel < nLoosest) {
+            return;
+        }
+        result.nLength += token.nLength;
+        ExprResult right;
+        ReadOperators(psz + result.nLength, pOperator->nLevel + 1, right);
+        result.nLength += right.nLength;
+        result.dValue = pOperator->pfApply(result.dValue, right.dValue);
+    }
+}
+
+/// Kept as it stands: the running product is checked for overflow against small numbers too, so that it fails
+/// with its first step, and only operands of 1 or less have a factorial.
+void CExpressionEvaluator::ReadFactorial(const char* psz, ExprResult& result)
+{
+    ReadPrimary(psz, result);
+    const ExprToken token = ReadExprToken(psz + result.nLength);
+    if (token.nToken != kTokenFactorial) {
+        return;
+    }
+    if (result.dValue > 1.0) {
+        throw ErrCode::FactorialOverflow;
+    }
+    result.nLength += token.nLength;
+    result.dValue = 1.0;
+}
+
+/// Signs bind tighter than everything else.
+void CExpressionEvaluator::ReadPrimary(const char* psz, ExprResult& result)
+{
+    const char* p = psz;
+    bool bNegative = false;
+    ExprToken token = ReadExprToken(p);
+    for (; token.nToken == kTokenPlus || token.nToken == kTokenMinus; token = ReadExprToken(p)) {
+        p += token.nLength;
+        bNegative ^= token.nToken == kTokenMinus;
+    }
+    if (token.nToken == kTokenEnd) {
+        throw ErrCode::IncompleteExpression;
+    }
+    p += token.nLength - 1;
+    ReadOperand(token.nToken, p, result);
+    result.nLength += static_cast<std::uint32_t>(p - psz);
+    if (bNegative) {
+        result.dValue *= -1.0;
+    }
+}
+
+void CExpressionEvaluator::ReadOperand(std::uint32_t nToken, const char* psz, ExprResult& result)
+{
+    if (nToken == kTokenOpen) {
+        ReadBracket(psz, result);
+    } else if (nToken >= 'a' && nToken <= 'z') {
+        ReadName(psz, result);
+    } else if ((nToken >= '0' && nToken <= '9') || nToken == '.') {
+        result.dValue = DecimalValue(psz);
+        result.nLength = NumberLength(psz);
+    } else {
+        throw ErrCode::MissingOperand;
+    }
+}
+
+void CExpressionEvaluator::ReadBracket(const char* psz, ExprResult& result)
+{
+    const ExprToken open = ReadExprToken(psz);
+    if (open.nToken != kTokenOpen) {
+        if (result.nToken < ExprFunctions().size()) {
+            SetErrorArg(ExprFunctions()[result.nToken].pszName);
+        }
+        throw ErrCode::MissingParameter;
+    }
+    std::string content;
+    const char* const pszEnd = CopyBracket(psz + open.nLength, content);
+    if (m_nNesting >= kDeepestNesting) {
+        throw ErrCode::OpenBracket;
+    }
+    ++m_nNesting; // an error on the way ends the evaluation and need not lower it again
+    if (result.nArgs == 0) {
+        ExprResult inner;
+        ReadExpression(content.c_str(), inner);
+        result.dValue = inner.dValue;
+    } else {
+        ReadArguments(content.c_str(), result);
+    }
+    --m_nNesting;
+    result.nLength = static_cast<std::uint32_t>(pszEnd - psz);
+}
+
+void CExpressionEvaluator::ReadArguments(const char* pszList, ExprResult& result)
+{
+    constexpr std::uint32_t kMostArguments = 31;
+    std::uint32_t nCount = 0;
+    while (*pszList != 0) {
+        if (++nCount > kMostArguments) {
+            throw ErrCode::TooManyArguments;
+        }
+        const std::size_t nLength = ArgumentLength(pszList);
+        const std::string text(pszList, nLength);
+        ExprResult argument;
+        ReadExpression(text.c_str(), argument);
+        result.adArgs[nCount - 1] = argument.dValue;
+        pszList += nLength;
+        pszList += *pszList == ',' ? 1 : 0;
+    }
+    result.nArgs = nCount;
+    if (nCount != 0) {
+        result.dValue = result.adArgs[0];
+    }
+}

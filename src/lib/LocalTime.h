@@ -1,0 +1,6 @@
+#pragma once
+
+#include <ctime>
+
+/// The system's local time now, broken down.
+std::tm LocalTime();
