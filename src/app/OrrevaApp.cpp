@@ -104,7 +104,7 @@ bool COrrevaApp::ProcessShellCommand(const QStringList& arguments)
 {
     for (const QString& word : arguments) {
         if (!word.startsWith('-')) {
-            return false;
+            return document->OpenOldFile(QFile::encodeName(word).constData());
         }
     }
     return true;

@@ -2,6 +2,7 @@
 
 #include "app/MainFrame.h"
 #include "app/Modals.h"
+#include "document/FileMasks.h"
 #include "document/OrrevaDoc.h"
 #include "pages/QuickNewDialog.h"
 #include "pages/RaytracingSettingsDialog.h"
@@ -29,18 +30,16 @@ int Box(QMessageBox::Icon icon, const QString& title, const QString& text,
     return box.exec();
 }
 
-} // namespace
-
-QStringList NameFilters(const char* pipes)
+QStringList NameFilters(const FileDialog& mask)
 {
     QStringList filters;
-    const QStringList pieces = QString::fromUtf8(pipes).split('|', Qt::SkipEmptyParts);
-    for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
-        const QString text = pieces[i].section(" (", 0, 0);
-        filters << text + " (" + pieces[i + 1] + ")";
+    for (const FileFilter& filter : SplitFilter(mask.filter)) {
+        filters << QString::fromStdString(filter.text);
     }
     return filters;
 }
+
+} // namespace
 
 void CQtHost::Attach(CMainFrame* mainFrame, COrrevaDoc* doc)
 {
@@ -82,13 +81,13 @@ std::string CQtHost::AskPath(const FileDialog& mask)
     QFileDialog dialog(ActiveWindow());
     dialog.setAcceptMode(mask.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(mask.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setNameFilters(NameFilters(mask.filter));
-    dialog.setDefaultSuffix(mask.default_extension);
+    dialog.setNameFilters(NameFilters(mask));
+    dialog.setDefaultSuffix(QString::fromStdString(EndingOf(mask)));
     dialog.selectFile(mask.file_name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
-    return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+    return WithEnding(mask, QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString());
 }
 
 bool CQtHost::AskQuickNew(QuickNewTexts& texts)

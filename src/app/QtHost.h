@@ -3,8 +3,6 @@
 #include "document/DocumentHost.h"
 #include "lib/Assertion.h"
 
-#include <QString>
-#include <QStringList>
 
 class CMainFrame;
 class COrrevaDoc;
@@ -37,6 +35,3 @@ private:
     CMainFrame* frame = nullptr;
     COrrevaDoc* document = nullptr;
 };
-
-/// A filter in pipe notation, "Text|*.ext|Text|*.*||", as the toolkit's list "Text (*.ext)".
-QStringList NameFilters(const char* pipes);

@@ -32,12 +32,14 @@ std::vector<FileFilter> SplitFilter(const char* filter)
     return choices;
 }
 
+std::string EndingOf(const FileDialog& dialog)
+{
+    const auto choices = SplitFilter(dialog.filter);
+    return choices.empty() ? std::string() : choices.front().pattern.substr(1); // without the asterisk
+}
+
 std::string WithEnding(const FileDialog& dialog, const std::string& path)
 {
     const bool opens_it = !dialog.saving && FileExists(path.c_str()) != 0;
-    const auto choices = SplitFilter(dialog.filter);
-    if (opens_it || choices.empty() || !NamesAFileWithoutEnding(path)) {
-        return path;
-    }
-    return path + choices.front().pattern.substr(1); // without the asterisk
+    return opens_it || !NamesAFileWithoutEnding(path) ? path : path + EndingOf(dialog);
 }

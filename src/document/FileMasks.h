@@ -38,6 +38,9 @@ struct FileFilter {
 /// The choices of a filter in pipe notation, in order.
 std::vector<FileFilter> SplitFilter(const char* filter);
 
+/// The ending of the dialog's first choice, with its point; empty without a choice.
+std::string EndingOf(const FileDialog& dialog);
+
 /// The path that a dialog's answer stands for. A name typed without an ending gets the one that the dialog's
 /// first filter shows, not its default extension, which may hold an asterisk. A name with an ending, an empty
 /// path, and a file to be opened that exists as it was typed stay as they are.

@@ -10,7 +10,7 @@
 
 namespace {
 
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsLatinLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 bool StartsWithAny(std::initializer_list<const char*> words, const char* psz)
 {
@@ -133,7 +133,7 @@ int TakeYear(const char*& psz)
 double ReadTimeLiteral(const char* psz)
 {
     psz = SkipBlanks(psz);
-    if (IsLetter(*psz)) {
+    if (IsLatinLetter(*psz)) {
         return TimeOfWord(psz);
     }
     const double dHour = TakeHour(psz);
@@ -149,7 +149,7 @@ CalDate ReadDateLiteral(const char* psz)
     if (*psz == ')') {
         throw ErrCode::EmptyBrackets;
     }
-    if (IsLetter(*psz)) {
+    if (IsLatinLetter(*psz)) {
         return DateOfWord(psz);
     }
     psz = SkipBlanks(psz);

@@ -1,0 +1,189 @@
+#include "pages/PropertySheet.h"
+
+#include "pages/Controls.h"
+#include "pages/Help.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kPanelWidth = 285;
+
+} // namespace
+
+CPropertySheet::CPropertySheet(const QString& caption, QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(caption);
+    tabs = new QTabWidget(this);
+    heading = new QLabel(this);
+    heading->setObjectName("heading");
+    heading->setStyleSheet("font-weight: bold");
+    heading->hide();
+    body = new QHBoxLayout;
+    body->addWidget(tabs, 1);
+
+    buttonRow = new QHBoxLayout;
+    buttonRow->addStretch();
+    back = AddButton(tr("< &Back"), "back", &CPropertySheet::OnBack);
+    next = AddButton(tr("&Next >"), "next", &CPropertySheet::OnNext);
+    finish = AddButton(tr("Finish"), "finish", &CPropertySheet::OnFinish);
+    ok = AddButton(tr("OK"), "ok", &CPropertySheet::accept);
+    cancel = AddButton(tr("Cancel"), "cancel", &CPropertySheet::reject);
+    apply = AddButton(tr("&Apply"), "apply", &CPropertySheet::Apply);
+    apply->setEnabled(false);
+    for (QPushButton* const button : {back, next, finish}) {
+        button->hide();
+    }
+    ok->setDefault(true);
+
+    auto* const column = new QVBoxLayout(this);
+    column->addWidget(heading);
+    column->addLayout(body, 1);
+    column->addLayout(buttonRow);
+    connect(tabs, &QTabWidget::currentChanged, this, &CPropertySheet::Activate);
+}
+
+QPushButton* CPropertySheet::AddButton(const QString& text, const char* name,
+                                       void (CPropertySheet::*pressed)())
+{
+    auto* const button = new QPushButton(text, this);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, pressed);
+    buttonRow->addWidget(button);
+    return button;
+}
+
+void CPropertySheet::AddPage(const QString& title, MakePage make)
+{
+    entries.push_back({std::move(make), nullptr});
+    auto* const place = new QWidget(tabs);
+    auto* const fill = new QVBoxLayout(place);
+    fill->setContentsMargins(0, 0, 0, 0);
+    const QSignalBlocker quiet(tabs); // the first page, too, waits until the sheet is shown
+    tabs->addTab(place, title);
+}
+
+void CPropertySheet::RemovePage(int index)
+{
+    QWidget* const place = tabs->widget(index);
+    entries.erase(entries.begin() + index);
+    tabs->removeTab(index);
+    place->deleteLater();
+}
+
+void CPropertySheet::SetWizardMode()
+{
+    wizard = true;
+    tabs->tabBar()->hide();
+    heading->show();
+    for (QPushButton* const button : {ok, apply}) {
+        button->hide();
+    }
+    ShowWizardButtons(kWizardNext);
+}
+
+int CPropertySheet::ActiveIndex() const { return tabs->currentIndex(); }
+
+void CPropertySheet::SetActivePage(int index)
+{
+    if (index >= 0 && index < PageCount()) {
+        tabs->setCurrentIndex(index);
+    }
+}
+
+void CPropertySheet::AddPanel(QWidget* panel)
+{
+    panel->setParent(this);
+    panel->setFixedWidth(kPanelWidth);
+    body->addWidget(panel);
+}
+
+void CPropertySheet::showEvent(QShowEvent* event)
+{
+    Activate(tabs->currentIndex());
+    QDialog::showEvent(event);
+}
+
+/// Builds the page at its first visit, and tells it that it came to the front.
+void CPropertySheet::Activate(int index)
+{
+    if (index < 0 || index >= PageCount()) {
+        return;
+    }
+    Entry& entry = entries[static_cast<std::size_t>(index)];
+    if (entry.page == nullptr) {
+        entry.page = entry.make(tabs->widget(index));
+        tabs->widget(index)->layout()->addWidget(entry.page);
+        connect(entry.page, &CPropertyPage::Modified, this, [this] { apply->setEnabled(true); });
+        connect(entry.page, &CPropertyPage::WizardButtons, this, &CPropertySheet::ShowWizardButtons);
+    }
+    heading->setText(tabs->tabText(index));
+    entry.page->OnSetActive();
+}
+
+void CPropertySheet::Apply()
+{
+    for (const Entry& entry : entries) {
+        if (entry.page != nullptr) {
+            entry.page->OnApply();
+        }
+    }
+    apply->setEnabled(false);
+}
+
+void CPropertySheet::accept()
+{
+    if (!wizard) {
+        Apply();
+    }
+    QDialog::accept();
+}
+
+void CPropertySheet::OnBack()
+{
+    entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardBack();
+    SetActivePage(ActiveIndex() - 1);
+}
+
+void CPropertySheet::OnNext()
+{
+    entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardNext();
+    SetActivePage(ActiveIndex() + 1);
+}
+
+void CPropertySheet::OnFinish()
+{
+    entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardFinish();
+    accept();
+}
+
+void CPropertySheet::ShowWizardButtons(unsigned buttons)
+{
+    if (!wizard) {
+        return;
+    }
+    const bool finishes = (buttons & kWizardFinish) != 0;
+    back->show();
+    back->setEnabled((buttons & kWizardBack) != 0);
+    next->setVisible(!finishes);
+    next->setEnabled((buttons & kWizardNext) != 0);
+    finish->setVisible(finishes);
+    (finishes ? finish : next)->setDefault(true);
+}
+
+void CPropertySheet::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F1 && ActiveIndex() >= 0) {
+        const CPropertyPage* const page = Page(ActiveIndex());
+        WinHelp(page != nullptr ? page->property(kDialogId).toInt() : 0, kHelpContext);
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
