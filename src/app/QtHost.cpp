@@ -2,6 +2,7 @@
 
 #include "app/MainFrame.h"
 #include "app/Modals.h"
+#include "document/FileMasks.h"
 #include "document/OrrevaDoc.h"
 #include "pages/QuickNewDialog.h"
 #include "pages/RaytracingSettingsDialog.h"
@@ -82,12 +83,12 @@ std::string CQtHost::AskPath(const FileDialog& mask)
     dialog.setAcceptMode(mask.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(mask.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setNameFilters(NameFilters(mask.filter));
-    dialog.setDefaultSuffix(mask.default_extension);
+    dialog.setDefaultSuffix(QString::fromStdString(FilterEnding(mask)));
     dialog.selectFile(mask.file_name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
-    return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+    return WithEnding(mask, QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString());
 }
 
 bool CQtHost::AskQuickNew(QuickNewTexts& texts)
