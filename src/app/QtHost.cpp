@@ -30,11 +30,13 @@ int Box(QMessageBox::Icon icon, const QString& title, const QString& text,
     return box.exec();
 }
 
-QStringList NameFilters(const FileDialog& mask)
+/// The choices of a filter in pipe notation, "Text (*.ext)|*.ext|...||": the texts hold their patterns.
+QStringList NameFilters(const char* pipes)
 {
+    const QStringList pieces = QString::fromUtf8(pipes).split('|', Qt::SkipEmptyParts);
     QStringList filters;
-    for (const FileFilter& filter : SplitFilter(mask.filter)) {
-        filters << QString::fromStdString(filter.text);
+    for (qsizetype i = 0; i < pieces.size(); i += 2) {
+        filters << pieces[i];
     }
     return filters;
 }
@@ -81,8 +83,8 @@ std::string CQtHost::AskPath(const FileDialog& mask)
     QFileDialog dialog(ActiveWindow());
     dialog.setAcceptMode(mask.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(mask.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setNameFilters(NameFilters(mask));
-    dialog.setDefaultSuffix(QString::fromStdString(EndingOf(mask)));
+    dialog.setNameFilters(NameFilters(mask.filter));
+    dialog.setDefaultSuffix(QString::fromStdString(FilterEnding(mask)));
     dialog.selectFile(mask.file_name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};

@@ -1,21 +1,24 @@
 #include "cli/Output.h"
 
-#include "cli/Words.h"
 #include "lib/FileBytes.h"
 
 #include <cstdio>
 
-int WriteOutput(const Words& words, std::string_view bytes)
+namespace {
+
+bool WriteToStandardOutput(std::string_view bytes)
 {
-    if (const auto path = words.Value("-o")) {
-        return ReplaceFile(path->c_str(), bytes) ? kDone : Fail("cannot write " + *path);
-    }
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size();
-    return std::fflush(stdout) == 0 && written ? kDone : Fail("cannot write to standard output");
+    return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
 }
 
-int Fail(const std::string& reason)
+} // namespace
+
+int WriteOutput(const std::string& path, std::string_view bytes)
 {
-    std::fprintf(stderr, "orreva-cli: %s\n", reason.c_str());
-    return kFailed;
+    const bool written = path.empty() ? WriteToStandardOutput(bytes) : ReplaceFile(path.c_str(), bytes);
+    if (!written) {
+        std::fprintf(stderr, "orreva-cli: cannot write %s\n",
+                     path.empty() ? "to standard output" : path.c_str());
+    }
+    return written ? kDone : kFailed;
 }

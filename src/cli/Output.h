@@ -3,14 +3,10 @@
 #include <string>
 #include <string_view>
 
-class COrrevaDoc;
-struct Words;
-
+/// Exit status of the program.
 inline constexpr int kDone = 0;
 inline constexpr int kFailed = 1;
 
-/// Writes the bytes to the file of `-o`, whole or not at all, or to standard output; the exit status.
-int WriteOutput(const Words& words, std::string_view bytes);
-
-/// One line on standard error; the exit status for it.
-int Fail(const std::string& reason);
+/// Writes bytes as they are: to the file at `path`, whole or not at all, or to standard output when it is
+/// empty. A failure is told on standard error. The exit status.
+int WriteOutput(const std::string& path, std::string_view bytes);

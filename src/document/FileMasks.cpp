@@ -7,13 +7,6 @@
 
 namespace {
 
-std::string TakePart(std::string_view& rest)
-{
-    const std::string_view part = rest.substr(0, rest.find('|'));
-    rest.remove_prefix(std::min(rest.size(), part.size() + 1));
-    return std::string(part);
-}
-
 bool NamesAFileWithoutEnding(const std::filesystem::path& path)
 {
     const std::filesystem::path name = path.filename();
@@ -22,24 +15,16 @@ bool NamesAFileWithoutEnding(const std::filesystem::path& path)
 
 } // namespace
 
-std::vector<FileFilter> SplitFilter(const char* filter)
+std::string FilterEnding(const FileDialog& dialog)
 {
-    std::vector<FileFilter> choices;
-    for (std::string_view rest(filter); !rest.empty() && rest.front() != '|';) {
-        std::string text = TakePart(rest);
-        choices.push_back({std::move(text), TakePart(rest)});
-    }
-    return choices;
-}
-
-std::string EndingOf(const FileDialog& dialog)
-{
-    const auto choices = SplitFilter(dialog.filter);
-    return choices.empty() ? std::string() : choices.front().pattern.substr(1); // without the asterisk
+    std::string_view rest(dialog.filter);
+    rest.remove_prefix(std::min(rest.find("|*."), rest.size()));
+    rest.remove_prefix(std::min<std::size_t>(3, rest.size()));
+    return std::string(rest.substr(0, rest.find('|')));
 }
 
 std::string WithEnding(const FileDialog& dialog, const std::string& path)
 {
-    const bool opens_it = !dialog.saving && FileExists(path.c_str()) != 0;
-    return opens_it || !NamesAFileWithoutEnding(path) ? path : path + EndingOf(dialog);
+    const bool stays = !NamesAFileWithoutEnding(path) || (!dialog.saving && FileExists(path.c_str()) != 0);
+    return stays ? path : path + "." + FilterEnding(dialog);
 }

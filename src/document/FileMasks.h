@@ -4,7 +4,6 @@
 #include "lib/Language.h"
 
 #include <string>
-#include <vector>
 
 // Every file dialog hides the read-only box and asks before it overwrites.
 
@@ -24,24 +23,15 @@ inline constexpr Bilingual kOldFormatFilter{
     "File Type Orreva (*.orreva)|*.orreva|All Files (*.*)|*.*||",
     "Dateityp Orreva (*.orreva)|*.orreva|All Files (*.*)|*.*||",
 };
-constexpr FileDialog OpenOldFormat(int language)
+constexpr FileDialog OldFormatMask(int language)
 {
     return {false, kOldFormatFilter.In(language), "orreva", ""};
 }
 
-/// One choice of a dialog's filter: "FTA Files (*.mir)" and "*.mir".
-struct FileFilter {
-    std::string text;
-    std::string pattern;
-};
+/// The ending that the first choice of a dialog's filter shows, without its dot: "len", "orreva.xml". It
+/// stands in for the default extension, which may hold an asterisk.
+std::string FilterEnding(const FileDialog& dialog);
 
-/// The choices of a filter in pipe notation, in order.
-std::vector<FileFilter> SplitFilter(const char* filter);
-
-/// The ending of the dialog's first choice, with its point; empty without a choice.
-std::string EndingOf(const FileDialog& dialog);
-
-/// The path that a dialog's answer stands for. A name typed without an ending gets the one that the dialog's
-/// first filter shows, not its default extension, which may hold an asterisk. A name with an ending, an empty
-/// path, and a file to be opened that exists as it was typed stay as they are.
+/// The path that a dialog's answer stands for: a name typed without an ending gets FilterEnding. A name with
+/// one, an empty path, and a file to be opened that exists as it was typed stay as they are.
 std::string WithEnding(const FileDialog& dialog, const std::string& path);

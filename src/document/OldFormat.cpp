@@ -112,7 +112,7 @@ bool COrrevaDoc::Serialize(OldArchive& archive)
     return true;
 }
 
-bool COrrevaDoc::OpenOldFile(const char* path)
+bool COrrevaDoc::OpenOldFormat(const char* path)
 {
     const auto bytes = ReadFileBytes(path, kLargestOldFile);
     if (!bytes) {

@@ -119,9 +119,9 @@ void COrrevaDoc::OnFileSaveAs()
 
 void COrrevaDoc::OnImportOld()
 {
-    const std::string path = host.AskPath(OpenOldFormat(g_nLanguage));
+    const std::string path = host.AskPath(OldFormatMask(g_nLanguage));
     if (!path.empty()) {
-        OpenOldFile(path.c_str());
+        OpenOldFormat(path.c_str());
     }
 }
 

@@ -49,7 +49,7 @@ public:
     /// Opens a file of the old format (bytes of the file system), also one that the command line or the shell
     /// hands over. A failure is told and gives false; the record keeps what was read. After success the
     /// document's title is the file's name, until the next reset of a record.
-    bool OpenOldFile(const char* path);
+    bool OpenOldFormat(const char* path);
 
     /// Raises the save prompt, which has no Cancel: the caller closes in any case.
     void OnCloseDocument();

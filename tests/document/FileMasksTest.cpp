@@ -29,23 +29,18 @@ TEST(FileMasks, StandAsTheyAreShown)
 TEST(FileMasks, TheOldFormatHasTheMaskOfItsTemplate)
 {
     EXPECT_STREQ("File Type Orreva (*.orreva)|*.orreva|All Files (*.*)|*.*||",
-                 OpenOldFormat(kEnglish).filter);
-    EXPECT_STREQ("Dateityp Orreva (*.orreva)|*.orreva|All Files (*.*)|*.*||", OpenOldFormat(kGerman).filter);
-    EXPECT_FALSE(OpenOldFormat(kEnglish).saving);
+                 OldFormatMask(kEnglish).filter);
+    EXPECT_STREQ("Dateityp Orreva (*.orreva)|*.orreva|All Files (*.*)|*.*||", OldFormatMask(kGerman).filter);
+    EXPECT_FALSE(OldFormatMask(kEnglish).saving);
 }
 
-TEST(FileMasks, AFilterPartsIntoTextsAndPatterns)
+TEST(FileMasks, TheEndingIsTheOneOfTheFirstChoice)
 {
-    const auto choices = SplitFilter(kExportFta.filter);
-    ASSERT_EQ(2u, choices.size());
-    EXPECT_EQ("FTA Files (*.mir)", choices[0].text);
-    EXPECT_EQ("*.mir", choices[0].pattern);
-    EXPECT_EQ("All Files (*.*)", choices[1].text);
-    EXPECT_EQ("*.*", choices[1].pattern);
-    EXPECT_TRUE(SplitFilter("").empty());
-    EXPECT_TRUE(SplitFilter("||").empty());
-    ASSERT_EQ(1u, SplitFilter("no pattern").size());
-    EXPECT_EQ("", SplitFilter("no pattern")[0].pattern);
+    EXPECT_EQ("orreva.xml", FilterEnding(kOpenTelescope));
+    EXPECT_EQ("orreva.xml", FilterEnding(kSaveTelescope));
+    EXPECT_EQ("len", FilterEnding(kExportOslo));
+    EXPECT_EQ("mir", FilterEnding(kExportFta));
+    EXPECT_EQ("orreva", FilterEnding(OldFormatMask(kGerman)));
 }
 
 TEST(FileMasks, ANameWithoutEndingGetsTheOneThatTheFilterShows)
@@ -54,14 +49,14 @@ TEST(FileMasks, ANameWithoutEndingGetsTheOneThatTheFilterShows)
     EXPECT_EQ("scope.mir", WithEnding(kExportFta, "scope"));
     EXPECT_EQ("scope.orreva.xml", WithEnding(kSaveTelescope, "scope"));
     EXPECT_EQ("/no/such/folder/scope.orreva.xml", WithEnding(kOpenTelescope, "/no/such/folder/scope"));
-    EXPECT_EQ("/no.such/scope.orreva", WithEnding(OpenOldFormat(kGerman), "/no.such/scope"));
+    EXPECT_EQ("/no.such/scope.orreva", WithEnding(OldFormatMask(kGerman), "/no.such/scope"));
     EXPECT_EQ("/home/me/.hidden.len", WithEnding(kExportOslo, "/home/me/.hidden"));
 }
 
 TEST(FileMasks, NoAsteriskReachesTheDisk)
 {
     for (const FileDialog& dialog :
-         {kOpenTelescope, kSaveTelescope, kExportOslo, kExportFta, OpenOldFormat(kEnglish)}) {
+         {kOpenTelescope, kSaveTelescope, kExportOslo, kExportFta, OldFormatMask(kEnglish)}) {
         EXPECT_EQ(std::string::npos, WithEnding(dialog, "scope").find('*')) << dialog.filter;
     }
 }

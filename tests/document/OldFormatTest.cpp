@@ -76,7 +76,7 @@ protected:
     {
         folder.Write("old.orreva", bytes);
         host.Take();
-        return doc.OpenOldFile((folder / "old.orreva").c_str());
+        return doc.OpenOldFormat((folder / "old.orreva").c_str());
     }
 
     TemporaryFolder folder;
@@ -272,12 +272,12 @@ TEST_F(OldFormat, AFileThatCannotBeReadIsTold)
     data.SetTitle("Mein Teleskop");
     const std::string missing = folder / "missing.orreva";
     host.Take();
-    EXPECT_FALSE(doc.OpenOldFile(missing.c_str()));
+    EXPECT_FALSE(doc.OpenOldFormat(missing.c_str()));
     EXPECT_EQ(Events{"message The file " + missing + " cannot be opened."}, host.Take());
-    EXPECT_FALSE(doc.OpenOldFile((folder / "").c_str())) << "a folder";
+    EXPECT_FALSE(doc.OpenOldFormat((folder / "").c_str())) << "a folder";
     g_nLanguage = kGerman;
     host.Take();
-    EXPECT_FALSE(doc.OpenOldFile(missing.c_str()));
+    EXPECT_FALSE(doc.OpenOldFormat(missing.c_str()));
     EXPECT_EQ(Events{"message Die Datei " + missing +
                      " kann nicht ge\xf6"
                      "ffnet werden."},
