@@ -1,12 +1,9 @@
 #pragma once
 
-#include "drawing/Surface.h"
+#include "drawing/RowLayout.h"
 
 class COrrevaData;
 struct FullField;
-
-inline constexpr std::int32_t kScreenFontHeight = 14;
-inline constexpr std::int32_t kPaperFontHeight = 24;
 
 /// Paints the design summary on its green field. Labels wrap at the value column and move what follows down;
 /// the columns stay where they are for every font. Without a loaded telescope the field stays plain.

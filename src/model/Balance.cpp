@@ -3,6 +3,8 @@
 #include "lib/CodePage.h"
 #include "lib/FormatText.h"
 
+#include <span>
+
 const BalanceComponent kBalanceComponents[kBalanceCount] = {
     {{"Mirror", "Spiegel"},
      {&COrrevaData::GetWeightMirror, &COrrevaData::SetWeightMirror, "%0.0f"},
@@ -152,8 +154,8 @@ std::string ResetComponentBalance(COrrevaData& record, std::size_t row)
 
 void SuggestBalance(COrrevaData& record)
 {
-    for (std::size_t i = kMirror + 1; i < kBalanceCount; ++i) {
-        (record.*kBalanceComponents[i].weight.set)(HUGE_VAL);
-        (record.*kBalanceComponents[i].balance.set)(HUGE_VAL);
+    for (const BalanceComponent& component : std::span(kBalanceComponents).subspan(kMirror + 1)) {
+        (record.*component.weight.set)(HUGE_VAL);
+        (record.*component.balance.set)(HUGE_VAL);
     }
 }

@@ -64,6 +64,20 @@ TEST(Balance, NamesTheComponentsInGerman)
     }
 }
 
+TEST(Balance, HasFourColumnsOfWhichTheNumbersStandRight)
+{
+    static constexpr const char* kEnglishTitles[] = {"Designation", "Weight", "Center of Gravity",
+                                                     "Center of Gravity (relative)"};
+    static constexpr const char* kGermanTitles[] = {"Bezeichnung", "Gewicht", "Schwerpunkt",
+                                                    "Schwerpunkt (relativ)"};
+    ASSERT_EQ(4u, std::size(kBalanceColumns));
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_STREQ(kEnglishTitles[i], kBalanceColumns[i].title.In(kEnglish));
+        EXPECT_STREQ(kGermanTitles[i], kBalanceColumns[i].title.In(kGerman));
+        EXPECT_EQ(i == 1 || i == 2, kBalanceColumns[i].right_aligned);
+    }
+}
+
 TEST(Balance, TotalAndCenterOfGravityWeighAllNine)
 {
     COrrevaData record;

@@ -32,6 +32,15 @@ TEST(Cell, A200MmMirrorOf33MmReadsAsPublished)
               Verdict(figures, kGerman));
 }
 
+TEST(Cell, ColumnsAreTypeAndWavefront)
+{
+    EXPECT_STREQ("Type", kCellColumns[0].title.In(kEnglish));
+    EXPECT_STREQ("Typ", kCellColumns[0].title.In(kGerman));
+    EXPECT_STREQ("lambda p/v", kCellColumns[1].title.In(kGerman));
+    EXPECT_FALSE(kCellColumns[0].right_aligned);
+    EXPECT_TRUE(kCellColumns[1].right_aligned);
+}
+
 TEST(Cell, ReadsTheRecordAsItIsNow)
 {
     COrrevaData record;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "drawing/Surface.h"
+#include "model/PanelRows.h"
+
+#include <vector>
+
+/// What the two panels have in common: their background, and rows of label and value from the top down, some
+/// with a thin line along their top edge.
+
+/// Fills the panel as the sheet around it is filled.
+void PaintPanelBackground(Surface& surface, Colour background);
+
+/// Paints the rows; the position under the last one.
+std::int32_t PaintPanelRows(Surface& surface, const std::vector<PanelRow>& rows);
+
+void PaintThinLine(Surface& surface, std::int32_t y);

@@ -1,0 +1,9 @@
+#include "drawing/TubePanelPicture.h"
+
+#include "drawing/PanelRowsPicture.h"
+
+void PaintTubePanel(Surface& surface, COrrevaData& record, int language, Colour background)
+{
+    PaintPanelBackground(surface, background);
+    PaintPanelRows(surface, TubePanelRows(record, language));
+}
