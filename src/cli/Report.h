@@ -47,6 +47,11 @@ std::string ReportLine(const ListRow& cells);
 /// The rows as the user reads them: the last one made stands on top.
 void AppendRows(ReportLines& lines, const ListRows& rows);
 
+// The left pane -----------------------------------------------------------------------------------------
+
+/// The title and headings alone on their lines; a value in the warning colour has a third cell "!".
+ReportLines SummaryReport(const ReportContext& context);
+
 // The pages of the telescope sheet ----------------------------------------------------------------------
 
 ReportLines PrimaryReport(const ReportContext& context);

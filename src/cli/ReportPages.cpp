@@ -3,9 +3,9 @@
 std::span<const ReportPage> ReportPages()
 {
     static constexpr ReportPage kPages[] = {
-        {"primary", PrimaryReport}, {"secondary", SecondaryReport}, {"tube", TubeReport},
-        {"focuser", FocuserReport}, {"cell", CellReport},           {"eyepieces", EyepiecesReport},
-        {"balance", BalanceReport},
+        {"summary", SummaryReport},     {"primary", PrimaryReport}, {"secondary", SecondaryReport},
+        {"tube", TubeReport},           {"focuser", FocuserReport}, {"cell", CellReport},
+        {"eyepieces", EyepiecesReport}, {"balance", BalanceReport},
     };
     return kPages;
 }

@@ -1,0 +1,151 @@
+#include "cli/DrawVerb.h"
+
+#include "drawing/SectionPicture.h"
+#include "drawing/SummaryPicture.h"
+#include "lib/FileBytes.h"
+#include "views/PainterSurface.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include <clocale>
+#include <functional>
+#include <memory>
+
+namespace {
+
+// Pictures -----------------------------------------------------------------------------------------------
+
+void PaintSectionPicture(Surface& surface, const DrawContext& context)
+{
+    const DrawOptions& options = context.options;
+    SectionZoom view{options.zoom, options.scroll.x, options.scroll.y};
+    PaintSection(surface, view, context.record, SwitchesFor(options), options.pointer, context.language);
+}
+
+void PaintSummaryPicture(Surface& surface, const DrawContext& context)
+{
+    PaintSummary(surface, context.record, context.field, context.language);
+}
+
+constexpr NamedPicture kPictures[] = {
+    {"section", PaintSectionPicture},
+    {"summary", PaintSummaryPicture},
+};
+
+// Forms of files -----------------------------------------------------------------------------------------
+
+using Paint = std::function<void(QPaintDevice& device)>;
+
+/// Each writes what `paint` paints to `file`; false if it cannot.
+bool WritePng(QBuffer& file, Pixel size, const Paint& paint)
+{
+    QImage image(size.x, size.y, QImage::Format_RGB32);
+    if (image.isNull()) {
+        return false;
+    }
+    image.fill(Qt::white);
+    paint(image);
+    return image.save(&file, "PNG");
+}
+
+bool WriteSvg(QBuffer& file, Pixel size, const Paint& paint)
+{
+    QSvgGenerator generator;
+    generator.setOutputDevice(&file);
+    generator.setSize(QSize(size.x, size.y));
+    generator.setViewBox(QRect(0, 0, size.x, size.y));
+    generator.setTitle("Orreva");
+    paint(generator);
+    return true;
+}
+
+bool WritePdf(QBuffer& file, Pixel size, const Paint& paint)
+{
+    constexpr int kPointsPerInch = 72;
+    QPdfWriter writer(&file);
+    writer.setCreator("Orreva");
+    writer.setResolution(kPointsPerInch);
+    writer.setPageSize(QPageSize(QSizeF(size.x, size.y), QPageSize::Point, QString(), QPageSize::ExactMatch));
+    writer.setPageMargins(QMarginsF());
+    paint(writer);
+    return true;
+}
+
+struct Form {
+    std::string_view ending;
+    bool (*write)(QBuffer& file, Pixel size, const Paint& paint);
+};
+constexpr Form kForms[] = {{".png", WritePng}, {".svg", WriteSvg}, {".pdf", WritePdf}};
+
+const Form* FormOf(std::string_view path)
+{
+    for (const Form& form : kForms) {
+        if (path.ends_with(form.ending)) {
+            return &form;
+        }
+    }
+    return nullptr;
+}
+
+/// Fonts need an application of the toolkit; this one needs no screen. Null if there is one already.
+std::unique_ptr<QGuiApplication> OpenToolkit()
+{
+    if (QCoreApplication::instance() != nullptr) {
+        return nullptr;
+    }
+    static char name[] = "orreva-cli";
+    static char* arguments[] = {name, nullptr};
+    static int count = 1;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Warnings of the toolkit about the desktop that is not there are none of ours.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    auto application = std::make_unique<QGuiApplication>(count, arguments);
+    std::setlocale(LC_NUMERIC, "C"); // the toolkit follows the user's language
+    return application;
+}
+
+} // namespace
+
+std::span<const NamedPicture> Pictures() { return kPictures; }
+
+const NamedPicture* FindPicture(std::string_view name)
+{
+    for (const NamedPicture& picture : Pictures()) {
+        if (picture.name == name) {
+            return &picture;
+        }
+    }
+    return nullptr;
+}
+
+bool IsPictureFile(std::string_view path) { return FormOf(path) != nullptr; }
+
+bool IsPictureSize(Pixel size)
+{
+    constexpr std::int32_t kLongest = 16384;
+    return size.x >= 1 && size.x <= kLongest && size.y >= 1 && size.y <= kLongest;
+}
+
+int DrawPicture(const NamedPicture& picture, const DrawContext& context, const std::string& path)
+{
+    const auto toolkit = OpenToolkit();
+    const Pixel size = context.options.size;
+    const auto paint = [&](QPaintDevice& device) {
+        QPainter painter(&device);
+        PainterSurface surface(painter, size.x, size.y);
+        picture.paint(surface, context);
+    };
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    if (!FormOf(path)->write(file, size, paint)) {
+        return 1;
+    }
+    const QByteArray& bytes = file.data();
+    return ReplaceFile(path.c_str(), {bytes.constData(), static_cast<std::size_t>(bytes.size())}) ? 0 : 1;
+}
