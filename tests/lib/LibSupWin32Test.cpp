@@ -235,7 +235,7 @@ TEST(LibSupWin32Directories, ATreeTooDeepIsLeftInPart)
 {
     const TempFolder folder;
     fs::path deep = folder.Path("tree");
-    for (int i = 0; i < 700; ++i) {
+    for (int i = 0; i < 505; ++i) {
         deep /= "d";
     }
     fs::create_directories(deep);
