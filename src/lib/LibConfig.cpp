@@ -3,6 +3,7 @@
 #include "lib/CharTools.h"
 #include "lib/ConfigAssert.h"
 #include "lib/ConfigLine.h"
+#include "lib/LibSupWin32.h"
 #include "lib/Numbers.h"
 #include "lib/TextLines.h"
 
@@ -20,7 +21,8 @@ constexpr std::size_t kListSize = 1024;
 constexpr std::size_t kTypedSize = 256;
 constexpr std::size_t kStringSize = 2047;
 
-/// A line of at most `nSize` - 1 characters; the rest of a longer one is passed over.
+/// A line of at most `nSize` - 1 characters, without its line end, which a name could match as an underscore.
+/// The rest of a longer line is passed over.
 bool ReadLine(char* target, int nSize, std::FILE* file)
 {
     if (ReadTextLine(target, nSize, file) == nullptr) {
@@ -31,6 +33,7 @@ bool ReadLine(char* target, int nSize, std::FILE* file)
     while (!ended && ReadTextLine(szRest, sizeof szRest, file) != nullptr) {
         ended = std::strchr(szRest, '\n') != nullptr;
     }
+    CutLineEnd(target);
     return true;
 }
 

@@ -71,6 +71,7 @@ TEST_F(ConfigFile, ReadsAValueOfASection)
         {"[s]\nother=1\n [t]\nname=1\n", "s", "name", 402, ""},
         {"[s]\nname=1\nname=2\n", "s", "name", 0, "1"},
         {"[s]\nname=a=b\n", "s", "name", 0, "a=b"},
+        {"[s]\nna\nna_=1\n", "s", "na_", 0, "1"}, // a line end folds to an underscore, but is none
         {"[s]\nname==b\n", "s", "name", 0, "=b"},
         // Comments and quotes.
         {"[s]\nname = \"a # b\"   # note\n", "s", "name", 0, "a # b"},
