@@ -32,6 +32,9 @@ inline std::int32_t MonthLength(std::int32_t m, std::int32_t y, CalendarVersion 
 
 inline std::int32_t YearLength(std::int32_t y, CalendarVersion version)
 {
+    if (y != GetCalendarReform().lastOld.GetYear()) {
+        return IsLeap(y, version) ? 366 : 365;
+    }
     std::int32_t nDays = 0;
     for (std::int32_t m = 1; m <= 12; ++m) {
         nDays += MonthLength(m, y, version);
