@@ -1,8 +1,15 @@
 #include "cli/DrawVerb.h"
 
+#include "drawing/FieldPicture.h"
+#include "drawing/MirrorPanelPicture.h"
+#include "drawing/PolygonPicture.h"
+#include "drawing/RonchiPicture.h"
 #include "drawing/SectionPicture.h"
+#include "drawing/SectorPicture.h"
 #include "drawing/SummaryPicture.h"
+#include "drawing/TubePanelPicture.h"
 #include "lib/FileBytes.h"
+#include "lib/Numbers.h"
 #include "views/PainterSurface.h"
 
 #include <QBuffer>
@@ -14,6 +21,7 @@
 #include <QSvgGenerator>
 
 #include <clocale>
+#include <ctime>
 #include <functional>
 #include <memory>
 
@@ -33,9 +41,49 @@ void PaintSummaryPicture(Surface& surface, const DrawContext& context)
     PaintSummary(surface, context.record, context.field, context.language);
 }
 
+/// What a sheet has behind its panel.
+constexpr Colour kPanelBackground{240, 240, 240};
+
+void PaintTubePanelPicture(Surface& surface, const DrawContext& context)
+{
+    PaintTubePanel(surface, context.record, context.language, kPanelBackground);
+}
+
+void PaintMirrorPanelPicture(Surface& surface, const DrawContext& context)
+{
+    PaintMirrorPanel(surface, context.record, kPanelBackground);
+}
+
+void PaintFieldPicture(Surface& surface, const DrawContext& context)
+{
+    FieldSimulation simulation;
+    DrawFieldPicture(surface, simulation.Table(context.record, {}));
+}
+
+void PaintRonchiPicture(Surface& surface, const DrawContext& context)
+{
+    const double grating = context.record.GetRonchiGrating();
+    const double constant = context.record.GetRonchiConstant();
+    DrawRonchiPicture(surface, context.record, grating, constant, context.options.seed);
+}
+
+void PaintPolygonPicture(Surface& surface, const DrawContext& context)
+{
+    const DrawOptions& options = context.options;
+    PaintPolygon(surface, {options.diameter, options.thickness, options.type}, context.language);
+}
+
+void PaintSectorPicture(Surface& surface, const DrawContext& context)
+{
+    const DrawOptions& options = context.options;
+    PaintSector(surface, {options.diameter, options.value, options.type}, context.language);
+}
+
 constexpr NamedPicture kPictures[] = {
-    {"section", PaintSectionPicture},
-    {"summary", PaintSummaryPicture},
+    {"section", PaintSectionPicture},      {"summary", PaintSummaryPicture},
+    {"tube-panel", PaintTubePanelPicture}, {"mirror-panel", PaintMirrorPanelPicture},
+    {"field", PaintFieldPicture},          {"ronchi", PaintRonchiPicture},
+    {"polygon", PaintPolygonPicture},      {"sector", PaintSectorPicture},
 };
 
 // Forms of files -----------------------------------------------------------------------------------------
@@ -111,6 +159,22 @@ std::unique_ptr<QGuiApplication> OpenToolkit()
 }
 
 } // namespace
+
+DrawOptions OpeningOptions(std::string_view picture)
+{
+    DrawOptions options;
+    options.seed = static_cast<std::uint32_t>(std::time(nullptr));
+    if (picture == "polygon") {
+        options.type = kPolygonStartType;
+        options.diameter = TextToDouble(kPolygonStartDiameter);
+        options.thickness = TextToDouble(kPolygonStartThickness);
+    } else if (picture == "sector") {
+        options.type = kSectorStartType;
+        options.diameter = TextToDouble(kSectorStartDiameter);
+        options.value = TextToDouble(kSectorStartValue);
+    }
+    return options;
+}
 
 std::span<const NamedPicture> Pictures() { return kPictures; }
 

@@ -22,6 +22,10 @@ struct DrawOptions : ViewOptions {
     double value = 0.0;
 };
 
+/// The options that a picture has without any word: the time seeds the patterns, and the calculators have
+/// what their dialogs start with.
+DrawOptions OpeningOptions(std::string_view picture);
+
 /// What a picture may show.
 struct DrawContext {
     COrrevaData& record;

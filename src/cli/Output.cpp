@@ -1,24 +1,42 @@
 #include "cli/Output.h"
 
-#include "lib/FileBytes.h"
-
 #include <cstdio>
 
-namespace {
-
-bool WriteToStandardOutput(std::string_view bytes)
+Output::Output(const std::string& outputPath) : path(outputPath)
 {
-    return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
+    if (!path.empty()) {
+        file.emplace(path.c_str());
+    }
 }
 
-} // namespace
+bool Output::Write(std::string_view bytes)
+{
+    good = good &&
+           (file ? file->Write(bytes) : std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size());
+    return good;
+}
+
+bool Output::Flush()
+{
+    good = good && (file || std::fflush(stdout) == 0);
+    return good;
+}
+
+int Output::Finish()
+{
+    good = good && (file ? file->Commit() : std::fflush(stdout) == 0);
+    return good ? kDone : Fail("cannot write " + (path.empty() ? std::string("to standard output") : path));
+}
 
 int WriteOutput(const std::string& path, std::string_view bytes)
 {
-    const bool written = path.empty() ? WriteToStandardOutput(bytes) : ReplaceFile(path.c_str(), bytes);
-    if (!written) {
-        std::fprintf(stderr, "orreva-cli: cannot write %s\n",
-                     path.empty() ? "to standard output" : path.c_str());
-    }
-    return written ? kDone : kFailed;
+    Output output(path);
+    output.Write(bytes);
+    return output.Finish();
+}
+
+int Fail(const std::string& reason)
+{
+    std::fprintf(stderr, "orreva-cli: %s\n", reason.c_str());
+    return kFailed;
 }

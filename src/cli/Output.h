@@ -1,5 +1,8 @@
 #pragma once
 
+#include "lib/FileBytes.h"
+
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -7,6 +10,27 @@
 inline constexpr int kDone = 0;
 inline constexpr int kFailed = 1;
 
-/// Writes bytes as they are: to the file at `path`, whole or not at all, or to standard output when it is
-/// empty. A failure is told on standard error. The exit status.
+/// Where a verb's bytes go: to the file at a path, which appears whole or not at all, or, for an empty path,
+/// to standard output as they come.
+class Output {
+public:
+    explicit Output(const std::string& path);
+
+    /// False once something could not be written.
+    bool Write(std::string_view bytes);
+    /// Hands over what stands so far, so that a reader need not wait for the rest.
+    bool Flush();
+    /// The exit status; a failure is told on standard error.
+    int Finish();
+
+private:
+    std::string path;
+    std::optional<FileReplacement> file;
+    bool good = true;
+};
+
+/// All bytes at once. The exit status.
 int WriteOutput(const std::string& path, std::string_view bytes);
+
+/// One line on standard error; the exit status that goes with it.
+int Fail(const std::string& reason);

@@ -1,7 +1,5 @@
 #include "cli/Report.h"
 
-#include "lib/CodePage.h"
-
 #include <algorithm>
 #include <iterator>
 
@@ -15,16 +13,13 @@ const ReportPage* FindReportPage(std::string_view name)
     return nullptr;
 }
 
-std::string ReportText(std::span<const ReportPage* const> pages, const ReportContext& context)
+void WriteReport(std::span<const ReportPage* const> pages, const ReportContext& context,
+                 const ReportSink& sink)
 {
-    std::string text;
     for (const ReportPage* page : pages) {
-        text += std::string("# ") + page->name + '\n';
-        for (const std::string& line : page->lines(context)) {
-            text += line + '\n';
-        }
+        sink(std::string("# ") + page->name);
+        page->write(context, sink);
     }
-    return Utf8FromCp1252(text);
 }
 
 std::string ReportLine(const ListRow& cells)

@@ -1,13 +1,24 @@
 #pragma once
 
 #include "lib/Language.h"
+#include "model/FoucaultZones.h"
 #include "model/ListRow.h"
 #include "model/OrrevaData.h"
 
+#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+/// What is done on the freshly opened zone calculator; a field without a text stays as it opens.
+struct ZoneOptions {
+    std::optional<std::string> zones;
+    std::optional<std::string> centre;
+    std::optional<std::string> edge;
+    ZoneView view;
+};
 
 /// What a report page may ask for: the one telescope that all pages of a run share, and how to show it.
 struct ReportContext {
@@ -20,14 +31,18 @@ struct ReportContext {
     /// The check box Show Details.
     bool details = false;
     const char* eyepiece_path = "eyepiece.dat";
+    ZoneOptions zones;
 };
 
 /// Lines without line ends, as bytes of code page 1252.
 using ReportLines = std::vector<std::string>;
 
+/// Takes the lines of a page one by one; false when it can take no more.
+using ReportSink = std::function<bool(const std::string& line)>;
+
 struct ReportPage {
     const char* name;
-    ReportLines (*lines)(const ReportContext& context);
+    void (*write)(const ReportContext& context, const ReportSink& sink);
 };
 
 /// All pages in the order in which a report without a choice prints them.
@@ -36,8 +51,9 @@ std::span<const ReportPage> ReportPages();
 /// The page of a name, null if there is none.
 const ReportPage* FindReportPage(std::string_view name);
 
-/// The pages one after the other, each under the line "# NAME", in UTF-8 with LF line ends.
-std::string ReportText(std::span<const ReportPage* const> pages, const ReportContext& context);
+/// The pages one after the other, each under the line "# NAME".
+void WriteReport(std::span<const ReportPage* const> pages, const ReportContext& context,
+                 const ReportSink& sink);
 
 // For the makers of pages -------------------------------------------------------------------------------
 
@@ -61,3 +77,13 @@ ReportLines FocuserReport(const ReportContext& context);
 ReportLines CellReport(const ReportContext& context);
 ReportLines EyepiecesReport(const ReportContext& context);
 ReportLines BalanceReport(const ReportContext& context);
+
+// The pages of the optical tests and of the simulated field
+// --------------------------------------------------
+
+/// The zone calculator. Its list may be longer than memory, so that no line is kept.
+void FoucaultReport(const ReportContext& context, const ReportSink& sink);
+ReportLines RonchiReport(const ReportContext& context);
+ReportLines StarReport(const ReportContext& context);
+ReportLines MarksReport(const ReportContext& context);
+ReportLines FieldReport(const ReportContext& context);

@@ -1,4 +1,4 @@
-#include "cli/ReportTests.h"
+#include "cli/Report.h"
 
 #include "model/CentreMarks.h"
 #include "model/FieldSimulation.h"
@@ -25,10 +25,11 @@ std::vector<std::string> LinesOf(const std::string& text)
 
 } // namespace
 
-void FoucaultReport(COrrevaData& record, const ZoneOptions& options, const ReportSink& sink)
+void FoucaultReport(const ReportContext& context, const ReportSink& sink)
 {
-    const double D = record.GetMirrorDiameter();
-    const double F = record.GetFocalLength();
+    const ZoneOptions& options = context.zones;
+    const double D = context.record.GetMirrorDiameter();
+    const double F = context.record.GetFocalLength();
     ZoneFields fields = OpenZoneFields(D, F);
     fields.wanted_zones = options.zones.value_or(fields.wanted_zones);
     fields.centre_percent = options.centre.value_or(fields.centre_percent);
@@ -42,8 +43,9 @@ void FoucaultReport(COrrevaData& record, const ZoneOptions& options, const Repor
         titles.push_back(column.title.In(kGerman)); // the sheet exists in German only
     }
     sink(ReportLine(titles));
-    for (std::int32_t i = 0; i < table.RowCount(); ++i) {
-        sink(ReportLine(table.Row(i)));
+    bool more = true;
+    for (std::int32_t i = 0; more && i < table.RowCount(); ++i) {
+        more = sink(ReportLine(table.Row(i)));
     }
 }
 

@@ -28,8 +28,14 @@ struct Store {
     {
         (data.*field.set)(unset ? "" : Cp1252FromUtf8(value).c_str());
     }
-    void operator()(const RealField& field) const { (data.*field.set)(unset ? HUGE_VAL : TextToDouble(value.c_str())); }
-    void operator()(const TypeField& field) const { (data.*field.set)(unset ? -1 : IntegerValue(value.c_str())); }
+    void operator()(const RealField& field) const
+    {
+        (data.*field.set)(unset ? HUGE_VAL : TextToDouble(value.c_str()));
+    }
+    void operator()(const TypeField& field) const
+    {
+        (data.*field.set)(unset ? -1 : IntegerValue(value.c_str()));
+    }
     void operator()(const UnusedField&) const {}
 };
 
@@ -90,7 +96,8 @@ bool MakeTelescope(const Words& words, const std::optional<std::string>& file, T
         document.OnFileNewQuick();
     }
     for (const Setting& setting : settings) {
-        std::visit(Store{*document.active_record, setting.value, setting.value == kUnset}, setting.field->field);
+        std::visit(Store{*document.active_record, setting.value, setting.value == kUnset},
+                   setting.field->field);
     }
     if (!settings.empty()) {
         document.Recalculate();

@@ -111,8 +111,9 @@ Words TakeApart(const std::vector<std::string>& arguments)
     words.help = std::ranges::find(arguments, "--help") != arguments.end();
     words.version = std::ranges::find(arguments, "--version") != arguments.end();
     const std::size_t verbAt = FindVerb(arguments);
-    const auto verb = verbAt < arguments.size() ? std::ranges::find(kVerbs, arguments[verbAt], &VerbName::name)
-                                                : std::end(kVerbs);
+    const auto verb = verbAt < arguments.size()
+                          ? std::ranges::find(kVerbs, arguments[verbAt], &VerbName::name)
+                          : std::end(kVerbs);
     if (verb != std::end(kVerbs)) {
         words.verb = verb->verb;
     } else if (words.help || words.version) {
@@ -153,7 +154,8 @@ Words TakeApart(const std::vector<std::string>& arguments)
 void UsageError(const std::string& reason, const std::string& word)
 {
     std::string line = "orreva-cli: " + reason + " " + word;
-    std::ranges::replace_if(line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    std::ranges::replace_if(
+        line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
     std::fprintf(stderr, "%s\n", line.c_str());
     std::exit(2);
 }
@@ -168,7 +170,8 @@ std::size_t ChoiceOf(const std::string& option, const std::string& value,
     return static_cast<std::size_t>(found - choices.begin());
 }
 
-std::int32_t WholeNumber(const std::string& option, const std::string& value, std::int32_t low, std::int32_t high)
+std::int32_t WholeNumber(const std::string& option, const std::string& value, std::int32_t low,
+                         std::int32_t high)
 {
     std::int32_t number = 0;
     const char* const end = value.data() + value.size();
@@ -198,12 +201,13 @@ std::pair<double, double> NumberPair(const std::string& option, const std::strin
     return {number(value.substr(0, comma)), number(value.substr(comma + 1))};
 }
 
-std::pair<std::int32_t, std::int32_t> WholePair(const std::string& option, const std::string& value, char separator,
-                                                std::int32_t low, std::int32_t high)
+std::pair<std::int32_t, std::int32_t> WholePair(const std::string& option, const std::string& value,
+                                                char separator, std::int32_t low, std::int32_t high)
 {
     const std::size_t at = value.find(separator);
     if (at == std::string::npos) {
         UsageError(option + " does not take", value);
     }
-    return {WholeNumber(option, value.substr(0, at), low, high), WholeNumber(option, value.substr(at + 1), low, high)};
+    return {WholeNumber(option, value.substr(0, at), low, high),
+            WholeNumber(option, value.substr(at + 1), low, high)};
 }

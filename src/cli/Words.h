@@ -44,9 +44,10 @@ Words TakeApart(const std::vector<std::string>& arguments);
 std::size_t ChoiceOf(const std::string& option, const std::string& value,
                      std::initializer_list<std::string_view> choices);
 /// A whole number between two ends, both included.
-std::int32_t WholeNumber(const std::string& option, const std::string& value, std::int32_t low, std::int32_t high);
+std::int32_t WholeNumber(const std::string& option, const std::string& value, std::int32_t low,
+                         std::int32_t high);
 /// Two numbers with decimal points, "X,Y".
 std::pair<double, double> NumberPair(const std::string& option, const std::string& value);
 /// Two whole numbers parted by `separator`.
-std::pair<std::int32_t, std::int32_t> WholePair(const std::string& option, const std::string& value, char separator,
-                                                std::int32_t low, std::int32_t high);
+std::pair<std::int32_t, std::int32_t> WholePair(const std::string& option, const std::string& value,
+                                                char separator, std::int32_t low, std::int32_t high);

@@ -37,6 +37,7 @@ constexpr Command kCommands[] = {
     Desktop(id::kExit, Always),
     {id::kProperties, Loaded, &Doc::OnProperties},
     {id::kTubeProperties, Loaded, &Doc::OnTubeProperties},
+    {id::kCentreMarks, Loaded, &Doc::OnCentreMarks},
     Opens(id::kArtificialStar, Loaded, Modal::ArtificialStar),
     Opens(id::kFoucaultTest, Loaded, Modal::FoucaultSheet),
     Opens(id::kMatchingRonchi, Loaded, Modal::RonchiSheet),
@@ -67,8 +68,9 @@ constexpr Command kCommands[] = {
 
 // Ctrl+O opens the old format, and Ctrl+S is the toolkit's save, which stores nothing. Kept.
 constexpr Accelerator kAccelerators[] = {
-    {"Ctrl+N", id::kNewQuick}, {"Ctrl+E", id::kProperties}, {"Ctrl+O", id::kImportOld}, {"Ctrl+P", id::kPrint},
-    {"Ctrl+S", id::kToolkitSave}, {"F1", id::kHelp}, {"Shift+F1", id::kContextHelp},
+    {"Ctrl+N", id::kNewQuick},      {"Ctrl+E", id::kProperties},  {"Ctrl+O", id::kImportOld},
+    {"Ctrl+P", id::kPrint},         {"Ctrl+S", id::kToolkitSave}, {"F1", id::kHelp},
+    {"Shift+F1", id::kContextHelp},
 };
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "lib/FileBytes.h"
 #include "lib/Log.h"
 #include "lib/Numbers.h"
+#include "model/CentreMarks.h"
 
 COrrevaDoc* g_pCurrentDocument = nullptr;
 int g_nWizard = 0;
@@ -164,6 +165,8 @@ void COrrevaDoc::OnTubeProperties()
     active_record = &main_record;
     Recalculate();
 }
+
+void COrrevaDoc::OnCentreMarks() { host.ShowMessage(CentreMarksMessage(*active_record).c_str()); }
 
 void COrrevaDoc::OnRaytracingSettings()
 {

@@ -38,6 +38,7 @@ public:
     void OnExportFta();
     void OnProperties();
     void OnTubeProperties();
+    void OnCentreMarks();
     void OnRayParallel() { ToggleRayMode(&ViewSwitches::ray_parallel); }
     void OnRayFromFocalPlane() { ToggleRayMode(&ViewSwitches::ray_from_focal_plane); }
     void OnRayFromMouse() { ToggleRayMode(&ViewSwitches::ray_from_mouse); }

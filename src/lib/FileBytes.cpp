@@ -34,13 +34,6 @@ bool WriteAll(int fd, std::string_view bytes)
     return true;
 }
 
-bool WriteAndClose(int fd, std::string_view bytes, bool flush)
-{
-    bool done = WriteAll(fd, bytes);
-    done = (!flush || fsync(fd) == 0) && done;
-    return close(fd) == 0 && done;
-}
-
 /// The path that the links at `path` lead to, whether anything stands there or not; nothing for a ring of
 /// links.
 std::optional<fs::path> FollowLinks(fs::path path)
@@ -56,12 +49,15 @@ std::optional<fs::path> FollowLinks(fs::path path)
     return std::nullopt;
 }
 
-/// A device or a pipe cannot be replaced, so it is written; a directory fails to open. A pipe that nobody
-/// reads is not waited for.
-bool WriteToDevice(const fs::path& target, std::string_view bytes)
+/// A device or a pipe to be written; a directory fails to open. A pipe that nobody reads is not waited for.
+int OpenDevice(const std::string& path)
 {
-    const int fd = open(target.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
-    return fd >= 0 && fcntl(fd, F_SETFL, 0) == 0 && WriteAndClose(fd, bytes, false);
+    const int fd = open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd >= 0 && fcntl(fd, F_SETFL, 0) != 0) {
+        close(fd);
+        return -1;
+    }
+    return fd;
 }
 
 /// Gives the new file the owner and the mode of the one that it replaces, null for none; then the process's
@@ -103,33 +99,67 @@ std::optional<std::string> ReadFileBytes(const char* pszPath, std::size_t limit)
     return std::ferror(file.get()) != 0 ? std::nullopt : std::optional<std::string>(std::move(bytes));
 }
 
-bool ReplaceFile(const char* pszPath, std::string_view bytes)
+FileReplacement::FileReplacement(const char* pszPath)
 {
     // A link stays a link: the file that it leads to is replaced.
-    const std::optional<fs::path> target = FollowLinks(pszPath);
-    if (!target) {
-        return false;
+    const std::optional<fs::path> path = FollowLinks(pszPath);
+    if (!path) {
+        return;
     }
+    target = path->string();
     struct stat old = {};
-    const bool exists = stat(target->c_str(), &old) == 0;
-    if (exists && access(target->c_str(), W_OK) != 0) {
-        return false;
+    const bool exists = stat(target.c_str(), &old) == 0;
+    if (exists && access(target.c_str(), W_OK) != 0) {
+        return;
     }
     if (exists && !S_ISREG(old.st_mode)) {
-        return WriteToDevice(*target, bytes);
+        fd = OpenDevice(target);
+        good = fd >= 0;
+        return;
     }
-
     // Not the file's own name with an ending: that could be too long.
-    std::string beside = (target->parent_path() / ".orreva-XXXXXX").string();
-    const int fd = mkstemp(beside.data());
+    beside = (path->parent_path() / ".orreva-XXXXXX").string();
+    fd = mkstemp(beside.data());
+    good = fd >= 0 && TakeRights(fd, exists ? &old : nullptr);
+}
+
+FileReplacement::~FileReplacement()
+{
+    if (fd >= 0) {
+        Close();
+        unlink(beside.c_str());
+    }
+}
+
+bool FileReplacement::Write(std::string_view bytes)
+{
+    good = good && WriteAll(fd, bytes);
+    return good;
+}
+
+bool FileReplacement::Close()
+{
+    const bool closed = close(fd) == 0;
+    fd = -1;
+    return closed;
+}
+
+bool FileReplacement::Commit()
+{
     if (fd < 0) {
         return false;
     }
-    const bool rights = TakeRights(fd, exists ? &old : nullptr);
-    const bool written = WriteAndClose(fd, bytes, true) && rights;
-    if (written && std::rename(beside.c_str(), target->c_str()) == 0) {
+    const bool replaces = !beside.empty();
+    const bool flushed = good && (!replaces || fsync(fd) == 0);
+    if (Close() && flushed && (!replaces || std::rename(beside.c_str(), target.c_str()) == 0)) {
         return true;
     }
     unlink(beside.c_str());
     return false;
+}
+
+bool ReplaceFile(const char* pszPath, std::string_view bytes)
+{
+    FileReplacement file(pszPath);
+    return file.Write(bytes) && file.Commit();
 }

@@ -11,7 +11,29 @@ inline constexpr std::size_t kMostFileBytes = std::size_t{1} << 30;
 /// All bytes of a file, at most `limit` of them; nothing if it is no readable file.
 std::optional<std::string> ReadFileBytes(const char* pszPath, std::size_t limit = kMostFileBytes);
 
-/// Replaces a file whole or not at all: writes beside it, flushes to the disk, renames. Its permissions stay,
-/// and a link stays a link. A file that may not be written, a directory, a missing folder or a full disk
-/// leave everything as it was. False on failure. A device is written to.
+/// The new contents of a file, written piece by piece beside it. The file is replaced whole by Commit or left
+/// as it was: the pieces are flushed to the disk and renamed into its place. A device or a pipe, which cannot
+/// be replaced, takes the pieces as they come.
+class FileReplacement {
+public:
+    explicit FileReplacement(const char* pszPath);
+    ~FileReplacement();
+    FileReplacement(const FileReplacement&) = delete;
+    FileReplacement& operator=(const FileReplacement&) = delete;
+
+    /// False once a piece could not be written; Commit fails then.
+    bool Write(std::string_view bytes);
+    bool Commit();
+
+private:
+    bool Close();
+
+    std::string target;
+    std::string beside; ///< empty for a device
+    int fd = -1;
+    bool good = false;
+};
+
+/// Replaces a file whole or not at all. A file that may not be written, a directory, a missing folder or a
+/// full disk leave everything as it was. False on failure.
 bool ReplaceFile(const char* pszPath, std::string_view bytes);

@@ -294,6 +294,15 @@ TEST_F(OrrevaDoc, RayModesAreRadioButtonsThatMayAllBeOff)
     EXPECT_EQ(0, doc.main_record.IsModified()) << "a view switch changes no telescope";
 }
 
+TEST_F(OrrevaDoc, CentreMarksAreTold)
+{
+    MakeTelescope();
+    doc.OnCentreMarks();
+    const Events events = host.Take();
+    ASSERT_EQ(1u, events.size());
+    EXPECT_EQ(0u, events[0].find("message Maximaler Durchmesser der Markierung auf dem Hauptspiegel: "));
+}
+
 TEST_F(OrrevaDoc, RaytracingSettingsAreAToggle)
 {
     host.settings = {true, false, true};

@@ -1,0 +1,96 @@
+// The start, from the beginning of the process to the first painted frame: the workbench beside a bare main
+// window of the toolkit. Each is a process of its own, run in turn.
+
+#include "app/OrrevaApp.h"
+
+#include "app/MainFrame.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <clocale>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr int kRuns = 15;
+
+/// Ends the program when the window has been painted.
+class UntilPainted : public QObject {
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        }
+        return false;
+    }
+};
+
+int StartBare(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QMainWindow window;
+    UntilPainted painted;
+    window.installEventFilter(&painted);
+    window.showMaximized();
+    return QApplication::exec();
+}
+
+int StartWorkbench(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    std::setlocale(LC_NUMERIC, "C");
+    COrrevaApp app;
+    if (!app.InitInstance({})) {
+        return 1;
+    }
+    UntilPainted painted;
+    app.Frame().installEventFilter(&painted);
+    return QApplication::exec();
+}
+
+double Milliseconds(const QString& program, const QString& what)
+{
+    QElapsedTimer timer;
+    timer.start();
+    QProcess::execute(program, {what});
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+double Median(std::vector<double> values)
+{
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QByteArray what = argc > 1 ? argv[1] : "";
+    if (what == "bare") {
+        return StartBare(argc, argv);
+    }
+    if (what == "workbench") {
+        return StartWorkbench(argc, argv);
+    }
+
+    const QTemporaryDir profile;
+    qputenv("XDG_CONFIG_HOME", profile.path().toUtf8());
+    std::vector<double> bare;
+    std::vector<double> workbench;
+    for (int i = 0; i < kRuns; ++i) {
+        bare.push_back(Milliseconds(argv[0], "bare"));
+        workbench.push_back(Milliseconds(argv[0], "workbench"));
+    }
+    std::printf("bare window %.1f ms, workbench %.1f ms, ratio %.2f\n", Median(bare), Median(workbench),
+                Median(workbench) / Median(bare));
+    return 0;
+}

@@ -1,0 +1,68 @@
+#include "cli/CalcVerb.h"
+
+#include "cli/Output.h"
+#include "lib/CodePage.h"
+#include "model/Calculator.h"
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+/// One answer a line; remembers whether all of them were numbers.
+class Answers {
+public:
+    explicit Answers(const std::string& path) : output(path) {}
+
+    bool Give(const std::string& expression)
+    {
+        const CalculatorAnswer answer = Calculate(Cp1252FromUtf8(expression));
+        numbers = numbers && answer.bNumber;
+        return output.Write(Utf8FromCp1252(answer.text) + '\n') && output.Flush();
+    }
+
+    int Finish()
+    {
+        const int status = output.Finish();
+        return numbers ? status : kFailed;
+    }
+
+private:
+    Output output;
+    bool numbers = true;
+};
+
+/// The next line of standard input without its end; nothing behind the last. Of a line that is longer than
+/// the calculator takes no more is kept than shows that it is.
+std::optional<std::string> ReadLine()
+{
+    constexpr std::size_t kKept = 4 * (kLongestExpression + 1); // a character is at most four bytes
+    std::string line;
+    int c = std::getchar();
+    if (c == EOF) {
+        return std::nullopt;
+    }
+    for (; c != EOF && c != '\n'; c = std::getchar()) {
+        if (line.size() < kKept) {
+            line += static_cast<char>(c);
+        }
+    }
+    return line;
+}
+
+} // namespace
+
+int CalcVerb(const std::vector<std::string>& expressions, const std::string& outputPath)
+{
+    Answers answers(outputPath);
+    for (const std::string& expression : expressions) {
+        answers.Give(expression);
+    }
+    if (expressions.empty()) {
+        bool more = true;
+        for (auto line = ReadLine(); more && line; line = ReadLine()) {
+            more = answers.Give(*line);
+        }
+    }
+    return answers.Finish();
+}

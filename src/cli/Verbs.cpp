@@ -1,0 +1,261 @@
+#include "cli/Verbs.h"
+
+#include "cli/CalcVerb.h"
+#include "cli/DrawVerb.h"
+#include "cli/ExchangeVerbs.h"
+#include "cli/Output.h"
+#include "cli/RaysVerb.h"
+#include "cli/Report.h"
+#include "cli/Telescope.h"
+#include "cli/Words.h"
+#include "document/TelescopeFile.h"
+#include "lib/CodePage.h"
+#include "lib/Numbers.h"
+
+#include <limits>
+#include <memory>
+
+namespace {
+
+using Limits = std::numeric_limits<std::int32_t>;
+
+std::string OutputPath(const Words& words) { return words.Value("-o").value_or(""); }
+
+/// A document on the terminal.
+struct Desk {
+    TerminalHost host;
+    COrrevaDoc document{host};
+
+    Desk() { g_pCurrentDocument = &document; }
+};
+
+/// The file among the plain words from `first` on, if there is one; a second one is a word too many.
+std::optional<std::string> FileWord(const Words& words, std::size_t first)
+{
+    if (words.plain.size() > first + 1) {
+        UsageError("too many words:", words.plain[first + 1]);
+    }
+    return words.plain.size() > first ? std::optional(words.plain[first]) : std::nullopt;
+}
+
+// Each verb understands all of its words before it reads or writes anything.
+// ---------------------------------
+
+ReportContext ContextOf(Desk& desk)
+{
+    return {*desk.document.active_record, desk.document.field_angle_100, desk.document.field_diameter_100,
+            desk.document.mirror_back_position, g_nLanguage};
+}
+
+std::vector<const ReportPage*> PagesOf(const Words& words)
+{
+    std::vector<const ReportPage*> pages;
+    for (const std::string& name : words.Values("--page")) {
+        pages.push_back(FindReportPage(name));
+        if (pages.back() == nullptr) {
+            UsageError("unknown page", name);
+        }
+    }
+    if (pages.empty()) {
+        for (const ReportPage& page : ReportPages()) {
+            pages.push_back(&page);
+        }
+    }
+    return pages;
+}
+
+std::int32_t Choice(const Words& words, const char* option, std::initializer_list<std::string_view> choices)
+{
+    const auto value = words.Value(option);
+    return value ? static_cast<std::int32_t>(ChoiceOf(option, *value, choices)) : 0;
+}
+
+ZoneOptions ZonesOf(const Words& words)
+{
+    ZoneOptions zones{words.Value("--zones"), words.Value("--centre"), words.Value("--edge"), {}};
+    zones.view.mask_type = Choice(words, "--template", {"couder", "everest"});
+    zones.view.centre_method = Choice(words, "--method", {"carlin", "couder", "texereau"});
+    zones.view.light_source = Choice(words, "--source", {"moving", "fixed"});
+    return zones;
+}
+
+int Report(const Words& words)
+{
+    const std::vector<const ReportPage*> pages = PagesOf(words);
+    const ZoneOptions zones = ZonesOf(words);
+    const auto file = FileWord(words, 0);
+    Desk desk;
+    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+        return kFailed;
+    }
+    ReportContext context = ContextOf(desk);
+    context.details = words.Has("--details");
+    context.zones = zones;
+    Output output(OutputPath(words));
+    WriteReport(pages, context,
+                [&](const std::string& line) { return output.Write(Utf8FromCp1252(line) + '\n'); });
+    return output.Finish();
+}
+
+RayMode ModeOf(const std::string& mode)
+{
+    constexpr RayMode kModes[] = {RayMode::kParallel, RayMode::kFocal, RayMode::kPointer};
+    return kModes[ChoiceOf("--mode", mode, {"parallel", "focal", "pointer"})];
+}
+
+ViewOptions ViewOf(const Words& words)
+{
+    ViewOptions view;
+    if (const auto mode = words.Value("--mode")) {
+        view.mode = ModeOf(*mode);
+    }
+    if (const auto pointer = words.Value("--pointer")) {
+        const auto [x, y] = NumberPair("--pointer", *pointer);
+        view.pointer = {x, y};
+    }
+    view.hide_lost = words.Has("--hide-lost");
+    view.extended = words.Has("--extended");
+    view.no_offset = words.Has("--no-offset");
+    view.box_and_cage = words.Has("--box-and-cage");
+    return view;
+}
+
+int Rays(const Words& words)
+{
+    for (const char* const option : {"--mode", "--pointer"}) {
+        if (!words.Has(option)) {
+            UsageError("rays needs", option);
+        }
+    }
+    const ViewOptions view = ViewOf(words);
+    const auto file = FileWord(words, 0);
+    Desk desk;
+    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+        return kFailed;
+    }
+    return WriteOutput(OutputPath(words), RaysText(*desk.document.active_record, view, g_nLanguage));
+}
+
+double NumberOption(const Words& words, const char* option, double otherwise)
+{
+    const auto value = words.Value(option);
+    return value ? TextToDouble(value->c_str()) : otherwise;
+}
+
+DrawOptions DrawOptionsOf(const Words& words, const std::string& picture)
+{
+    DrawOptions options = OpeningOptions(picture);
+    static_cast<ViewOptions&>(options) = ViewOf(words);
+    const std::string size = words.Value("--size").value_or("");
+    const auto [width, height] = WholePair("--size", size, 'x', Limits::min(), Limits::max());
+    options.size = {width, height};
+    if (!IsPictureSize(options.size)) {
+        UsageError("--size does not take", size);
+    }
+    if (const auto zoom = words.Value("--zoom")) {
+        options.zoom = WholeNumber("--zoom", *zoom, 1, SectionZoom::kMost);
+    }
+    if (const auto scroll = words.Value("--scroll")) {
+        const auto [x, y] = WholePair("--scroll", *scroll, ',', Limits::min(), Limits::max());
+        options.scroll = {x, y};
+    }
+    if (const auto seed = words.Value("--seed")) {
+        options.seed = static_cast<std::uint32_t>(WholeNumber("--seed", *seed, 0, Limits::max()));
+    }
+    if (const auto type = words.Value("--type")) {
+        options.type = WholeNumber("--type", *type, Limits::min(), Limits::max());
+    }
+    options.diameter = NumberOption(words, "--diameter", options.diameter);
+    options.thickness = NumberOption(words, "--thickness", options.thickness);
+    options.value = NumberOption(words, "--value", options.value);
+    return options;
+}
+
+int Draw(const Words& words)
+{
+    for (const char* const option : {"--picture", "--size", "-o"}) {
+        if (!words.Has(option)) {
+            UsageError("draw needs", option);
+        }
+    }
+    const std::string name = *words.Value("--picture");
+    const NamedPicture* const picture = FindPicture(name);
+    if (picture == nullptr) {
+        UsageError("unknown picture", name);
+    }
+    const DrawOptions options = DrawOptionsOf(words, name);
+    const std::string path = OutputPath(words);
+    if (!IsPictureFile(path)) {
+        UsageError("a picture does not go into", path);
+    }
+    const auto file = FileWord(words, 0);
+    Desk desk;
+    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+        return kFailed;
+    }
+    const COrrevaDoc& document = desk.document;
+    const DrawContext context{*document.active_record,
+                              {document.field_diameter_100, document.field_angle_100},
+                              g_nLanguage,
+                              options};
+    return DrawPicture(*picture, context, path) == 0 ? kDone : Fail("cannot write " + path);
+}
+
+int Save(const Words& words)
+{
+    const auto file = FileWord(words, 0);
+    Desk desk;
+    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+        return kFailed;
+    }
+    return WriteOutput(OutputPath(words), WriteTelescope(*desk.document.active_record));
+}
+
+int Import(const Words& words)
+{
+    const auto file = FileWord(words, 0);
+    if (!file) {
+        UsageError("import needs a file behind", "import");
+    }
+    Desk desk;
+    return ImportVerb(desk.document, *file, OutputPath(words));
+}
+
+int Export(const Words& words)
+{
+    if (words.plain.empty()) {
+        UsageError("export needs oslo or fta behind", "export");
+    }
+    const ExportForm* const form = FindExport(words.plain.front());
+    if (form == nullptr) {
+        UsageError("unknown export", words.plain.front());
+    }
+    const auto file = FileWord(words, 1);
+    Desk desk;
+    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+        return kFailed;
+    }
+    return form->run(desk.document, OutputPath(words));
+}
+
+int Calc(const Words& words) { return CalcVerb(words.plain, OutputPath(words)); }
+
+struct Entry {
+    Verb verb;
+    int (*run)(const Words& words);
+};
+
+constexpr Entry kEntries[] = {{kReport, Report}, {kRays, Rays},     {kDraw, Draw}, {kSaveVerb, Save},
+                              {kImport, Import}, {kExport, Export}, {kCalc, Calc}};
+
+} // namespace
+
+int RunVerb(const Words& words)
+{
+    for (const Entry& entry : kEntries) {
+        if (entry.verb == words.verb) {
+            return entry.run(words);
+        }
+    }
+    return kFailed;
+}
