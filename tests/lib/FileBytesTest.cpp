@@ -1,7 +1,7 @@
 #include "lib/FileBytes.h"
 
 #include "support/OrdinaryUser.h"
-#include "support/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ mode_t ModeOf(const std::string& path)
 
 TEST(ReadFileBytes, GivesEveryByte)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     std::string bytes;
     for (int i = 0; i < 200000; ++i) {
         bytes += static_cast<char>(i * 7);
@@ -38,7 +38,7 @@ TEST(ReadFileBytes, GivesEveryByte)
 
 TEST(ReadFileBytes, StopsAtItsLimit)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string path = folder.Write("a", "abcdef");
     EXPECT_EQ("abc", ReadFileBytes(path.c_str(), 3));
     EXPECT_EQ("abcdef", ReadFileBytes(path.c_str(), 6));
@@ -49,16 +49,16 @@ TEST(ReadFileBytes, StopsAtItsLimit)
 
 TEST(ReadFileBytes, GivesNothingForWhatIsNoReadableFile)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     EXPECT_EQ(std::nullopt, ReadFileBytes(folder.Path().c_str()));
-    EXPECT_EQ(std::nullopt, ReadFileBytes(folder.Path("missing").c_str()));
+    EXPECT_EQ(std::nullopt, ReadFileBytes((folder / "missing").c_str()));
     EXPECT_EQ(std::nullopt, ReadFileBytes(""));
 }
 
 TEST(ReplaceFile, WritesANewFileAndReplacesAnOldOneWhole)
 {
-    const TempFolder folder;
-    const std::string path = folder.Path("a.xml");
+    const TemporaryFolder folder;
+    const std::string path = (folder / "a.xml");
     EXPECT_TRUE(ReplaceFile(path.c_str(), "a long first text\r\n"));
     EXPECT_EQ("a long first text\r\n", folder.Read("a.xml"));
     EXPECT_TRUE(ReplaceFile(path.c_str(), std::string_view("b\0c", 3)));
@@ -70,27 +70,24 @@ TEST(ReplaceFile, WritesANewFileAndReplacesAnOldOneWhole)
 
 TEST(ReplaceFile, TakesANameAsLongAsTheFileSystemAllows)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string name(255, 'n');
-    EXPECT_TRUE(ReplaceFile(folder.Path(name).c_str(), "text"));
+    EXPECT_TRUE(ReplaceFile((folder / name).c_str(), "text"));
     EXPECT_EQ("text", folder.Read(name));
-    EXPECT_FALSE(ReplaceFile(folder.Path(name + "n").c_str(), "text"));
+    EXPECT_FALSE(ReplaceFile((folder / name + "n").c_str(), "text"));
     EXPECT_EQ(1, folder.Count());
 }
 
 TEST(ReplaceFile, TakesANameWithoutAFolder)
 {
-    const TempFolder folder;
-    const fs::path before = fs::current_path();
-    fs::current_path(folder.Path());
+    const TemporaryFolder folder;
     EXPECT_TRUE(ReplaceFile("here", "text"));
-    fs::current_path(before);
     EXPECT_EQ("text", folder.Read("here"));
 }
 
 TEST(ReplaceFile, KeepsThePermissions)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string path = folder.Write("a", "old");
     for (const mode_t mode : {0600u, 0640u, 0664u, 0755u, 0777u}) {
         ASSERT_EQ(0, chmod(path.c_str(), mode));
@@ -101,7 +98,7 @@ TEST(ReplaceFile, KeepsThePermissions)
 
 TEST(ReplaceFile, TakesNoFileFromItsOwner)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string path = folder.Write("a", "old");
     if (geteuid() == 0) {
         ASSERT_EQ(0, chown(path.c_str(), 12345, 54321));
@@ -118,16 +115,16 @@ TEST(ReplaceFile, TakesNoFileFromItsOwner)
 
 TEST(ReplaceFile, GivesANewFileWhatTheMaskLeaves)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const mode_t before = umask(027);
-    EXPECT_TRUE(ReplaceFile(folder.Path("a").c_str(), "new"));
+    EXPECT_TRUE(ReplaceFile((folder / "a").c_str(), "new"));
     EXPECT_EQ(027u, umask(before)) << "the mask itself stays";
-    EXPECT_EQ(0640u, ModeOf(folder.Path("a")));
+    EXPECT_EQ(0640u, ModeOf((folder / "a")));
 }
 
 TEST(ReplaceFile, LeavesAReadOnlyFileAsItWas)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string path = folder.Write("a", "old");
     ASSERT_EQ(0, chmod(folder.Path().c_str(), 0777));
     ASSERT_EQ(0, chmod(path.c_str(), 0444));
@@ -143,7 +140,7 @@ TEST(ReplaceFile, LeavesAReadOnlyFileAsItWas)
 
 TEST(ReplaceFile, LeavesAFolderThatMayNotBeWrittenAsItWas)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string path = folder.Write("a", "old");
     ASSERT_EQ(0, chmod(path.c_str(), 0666));
     ASSERT_EQ(0, chmod(folder.Path().c_str(), 0555));
@@ -160,45 +157,45 @@ TEST(ReplaceFile, LeavesAFolderThatMayNotBeWrittenAsItWas)
 
 TEST(ReplaceFile, RefusesADirectoryAndAMissingFolder)
 {
-    const TempFolder folder;
-    fs::create_directory(folder.Path("directory"));
-    EXPECT_FALSE(ReplaceFile(folder.Path("directory").c_str(), "new"));
-    EXPECT_TRUE(fs::is_directory(folder.Path("directory")));
-    EXPECT_FALSE(ReplaceFile(folder.Path("missing/a").c_str(), "new"));
+    const TemporaryFolder folder;
+    fs::create_directory((folder / "directory"));
+    EXPECT_FALSE(ReplaceFile((folder / "directory").c_str(), "new"));
+    EXPECT_TRUE(fs::is_directory((folder / "directory")));
+    EXPECT_FALSE(ReplaceFile((folder / "missing/a").c_str(), "new"));
     EXPECT_FALSE(ReplaceFile("", "new"));
     EXPECT_EQ(1, folder.Count());
 }
 
 TEST(ReplaceFile, ALinkStaysALink)
 {
-    const TempFolder folder;
-    fs::create_directory(folder.Path("below"));
+    const TemporaryFolder folder;
+    fs::create_directory((folder / "below"));
     folder.Write("below/real", "old");
-    fs::create_symlink("below/real", folder.Path("link"));
-    fs::create_symlink("link", folder.Path("second"));
-    EXPECT_TRUE(ReplaceFile(folder.Path("second").c_str(), "new"));
+    fs::create_symlink("below/real", (folder / "link"));
+    fs::create_symlink("link", (folder / "second"));
+    EXPECT_TRUE(ReplaceFile((folder / "second").c_str(), "new"));
     EXPECT_EQ("new", folder.Read("below/real"));
-    EXPECT_TRUE(fs::is_symlink(folder.Path("link")));
-    EXPECT_TRUE(fs::is_symlink(folder.Path("second")));
+    EXPECT_TRUE(fs::is_symlink((folder / "link")));
+    EXPECT_TRUE(fs::is_symlink((folder / "second")));
     EXPECT_EQ(3, folder.Count());
 }
 
 TEST(ReplaceFile, ALinkToNothingMakesTheFileThatItNames)
 {
-    const TempFolder folder;
-    fs::create_directory(folder.Path("below"));
-    fs::create_symlink("below/real", folder.Path("link"));
-    EXPECT_TRUE(ReplaceFile(folder.Path("link").c_str(), "new"));
-    EXPECT_TRUE(fs::is_symlink(folder.Path("link")));
+    const TemporaryFolder folder;
+    fs::create_directory((folder / "below"));
+    fs::create_symlink("below/real", (folder / "link"));
+    EXPECT_TRUE(ReplaceFile((folder / "link").c_str(), "new"));
+    EXPECT_TRUE(fs::is_symlink((folder / "link")));
     EXPECT_EQ("new", folder.Read("below/real"));
 }
 
 TEST(ReplaceFile, RefusesALinkToItself)
 {
-    const TempFolder folder;
-    fs::create_symlink("loop", folder.Path("loop"));
-    EXPECT_FALSE(ReplaceFile(folder.Path("loop").c_str(), "new"));
-    EXPECT_TRUE(fs::is_symlink(folder.Path("loop")));
+    const TemporaryFolder folder;
+    fs::create_symlink("loop", (folder / "loop"));
+    EXPECT_FALSE(ReplaceFile((folder / "loop").c_str(), "new"));
+    EXPECT_TRUE(fs::is_symlink((folder / "loop")));
     EXPECT_EQ(1, folder.Count());
 }
 
@@ -211,15 +208,15 @@ TEST(ReplaceFile, WritesThroughADeviceAndSeesThatItIsFull)
 
 TEST(ReplaceFile, DoesNotWaitForTheReaderOfAPipe)
 {
-    const TempFolder folder;
-    ASSERT_EQ(0, mkfifo(folder.Path("pipe").c_str(), 0600));
-    EXPECT_FALSE(ReplaceFile(folder.Path("pipe").c_str(), "new"));
-    EXPECT_TRUE(fs::is_fifo(folder.Path("pipe")));
+    const TemporaryFolder folder;
+    ASSERT_EQ(0, mkfifo((folder / "pipe").c_str(), 0600));
+    EXPECT_FALSE(ReplaceFile((folder / "pipe").c_str(), "new"));
+    EXPECT_TRUE(fs::is_fifo((folder / "pipe")));
 }
 
 TEST(ReplaceFile, LeavesTheOldFileWhenTheDiskTakesNoMore)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string path = folder.Write("a", "old");
     EXPECT_EXIT(
         {

@@ -1,6 +1,6 @@
 #include "lib/LibConfig.h"
 
-#include "support/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -136,10 +136,10 @@ TEST(ConfigTable, Unquotes)
 
 TEST(ConfigTable, Dumps)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const auto table = Table("a=1;b=2 %s;c");
     const auto dumped = [&](auto dump) {
-        std::FILE* const file = std::fopen(folder.Path("dump").c_str(), "wb");
+        std::FILE* const file = std::fopen((folder / "dump").c_str(), "wb");
         dump(file);
         std::fclose(file);
         return folder.Read("dump");

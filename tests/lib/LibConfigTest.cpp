@@ -4,7 +4,7 @@
 #include "lib/Log.h"
 
 #include "support/OrdinaryUser.h"
-#include "support/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -27,8 +27,8 @@ protected:
     void Is(const std::string& bytes) { folder.Write(kIni, bytes); }
     std::string Bytes() { return folder.Read(kIni); }
 
-    TempFolder folder;
-    CConfigFile file{folder.Path(kIni).c_str()};
+    TemporaryFolder folder;
+    CConfigFile file{(folder / kIni).c_str()};
 };
 
 struct RawCase {
@@ -409,20 +409,20 @@ TEST_F(ConfigFile, WritesTypedValues)
 
 TEST_F(ConfigFile, WhatCannotBeWrittenIsTold)
 {
-    EXPECT_EQ(1, CConfigFile(folder.Path("missing/a.ini").c_str()).SetInt("s", "a", 1));
+    EXPECT_EQ(1, CConfigFile((folder / "missing/a.ini").c_str()).SetInt("s", "a", 1));
     EXPECT_EQ(1, CConfigFile(folder.Path().c_str()).SetInt("s", "a", 1));
     EXPECT_EQ(0, folder.Count());
     Is("");
-    fs::resize_file(folder.Path(kIni), 5'000'000'000);
+    fs::resize_file((folder / kIni), 5'000'000'000);
     EXPECT_EQ(25, file.SetInt("s", "a", 1));
-    EXPECT_EQ(5'000'000'000u, fs::file_size(folder.Path(kIni)));
+    EXPECT_EQ(5'000'000'000u, fs::file_size((folder / kIni)));
 }
 
 TEST_F(ConfigFile, AReadOnlyFileStaysAsItWas)
 {
     Is("[s]\na=1\n");
     ASSERT_EQ(0, chmod(folder.Path().c_str(), 0777));
-    ASSERT_EQ(0, chmod(folder.Path(kIni).c_str(), 0444));
+    ASSERT_EQ(0, chmod((folder / kIni).c_str(), 0444));
     EXPECT_EXIT(
         {
             BecomeOrdinaryUser();
@@ -438,7 +438,7 @@ TEST(ConfigFileDeathTest, MisuseEndsTheProgram)
     const auto tell = [] { SetLogSink([](const char* psz) { std::fprintf(stderr, "%s\n", psz); }); };
     const testing::ExitedWithCode one(1);
     char dest[8];
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string path = folder.Write("a.ini", "");
     const std::string longName(2048, 'n');
     EXPECT_EXIT((tell(), CConfigFile(nullptr)), one, "Assertation \\(psz\\)" + source);

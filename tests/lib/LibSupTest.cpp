@@ -2,11 +2,10 @@
 
 #include "lib/LibApp.h"
 
-#include "support/CurrentFolder.h"
 #include "support/DesktopRecorder.h"
 #include "support/Environment.h"
 #include "support/LogRecorder.h"
-#include "support/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -65,8 +64,7 @@ TEST(LibSup, InitFailsOnTextsThatAreTooLong)
 
 TEST(LibSup, SupportValuesAreKeptInTheIniFile)
 {
-    const TempFolder folder;
-    const CurrentFolder current(folder.Path());
+    const TemporaryFolder folder;
     EXPECT_STREQ("default", GetSupportValue("Files", "Last", "default"));
     EXPECT_STREQ("", GetSupportValue("Files", "Last", nullptr));
     EXPECT_EQ(0, SetSupportValue("Files", "Last", "a.orreva.xml"));
@@ -323,8 +321,7 @@ TEST(LibSupError, WithoutADesktopItIsToldOnStandardError)
 
 TEST(LibSupError, ReportsTheLineOfItsCode)
 {
-    const TempFolder folder;
-    const CurrentFolder current(folder.Path());
+    const TemporaryFolder folder;
     DesktopRecorder desktop;
     EXPECT_EQ(50, ReportError(50));
     folder.Write("C:\\ErrMsg.txt",
@@ -345,8 +342,7 @@ TEST(LibSupError, ReportsTheLineOfItsCode)
 
 TEST(LibSupError, ReadsLinesOf255Characters)
 {
-    const TempFolder folder;
-    const CurrentFolder current(folder.Path());
+    const TemporaryFolder folder;
     DesktopRecorder desktop;
     folder.Write("C:\\ErrMsg.txt", "1" + std::string(254, ' ') + "7 rest\n");
     ReportError(7);
@@ -356,7 +352,7 @@ TEST(LibSupError, ReadsLinesOf255Characters)
 // Programs
 
 /// Waits for a file that a started program writes.
-std::string WaitFor(const TempFolder& folder, const char* name, std::size_t size)
+std::string WaitFor(const TemporaryFolder& folder, const char* name, std::size_t size)
 {
     for (int i = 0; i < 500 && folder.Read(name).size() < size; ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
@@ -364,7 +360,7 @@ std::string WaitFor(const TempFolder& folder, const char* name, std::size_t size
     return folder.Read(name);
 }
 
-void WriteProgram(const TempFolder& folder, const char* name, const std::string& script)
+void WriteProgram(const TemporaryFolder& folder, const char* name, const std::string& script)
 {
     std::filesystem::permissions(folder.Write(name, "#!/bin/sh\n" + script),
                                  std::filesystem::perms::owner_all);
@@ -372,12 +368,12 @@ void WriteProgram(const TempFolder& folder, const char* name, const std::string&
 
 TEST(LibSupProgram, RunsACommandLine)
 {
-    const TempFolder folder;
-    WriteProgram(folder, "program", "printf '<%s>' \"$@\" > " + folder.Path("out"));
-    const std::string command = "  " + folder.Path("program") + " one \t\"two words\" th\"r e\"e \"\" \"open";
+    const TemporaryFolder folder;
+    WriteProgram(folder, "program", "printf '<%s>' \"$@\" > " + (folder / "out"));
+    const std::string command = "  " + (folder / "program") + " one \t\"two words\" th\"r e\"e \"\" \"open";
     EXPECT_EQ(0, RunProgram(command.c_str()));
     EXPECT_EQ("<one><two words><thr ee><><open>", WaitFor(folder, "out", 31));
-    EXPECT_EQ(62, RunProgram(folder.Path("missing").c_str()));
+    EXPECT_EQ(62, RunProgram((folder / "missing").c_str()));
     EXPECT_EQ(62, RunProgram(""));
     EXPECT_EQ(62, RunProgram(" \t"));
     EXPECT_EQ(62, RunProgram(folder.Path().c_str()));
@@ -385,17 +381,16 @@ TEST(LibSupProgram, RunsACommandLine)
 
 TEST(LibSupProgram, OpensADocument)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string path = folder.Write("-a b.txt", "");
     EXPECT_EQ(27, OpenDocument(nullptr, nullptr));
-    EXPECT_EQ(1, OpenDocument(nullptr, folder.Path("missing").c_str()));
+    EXPECT_EQ(1, OpenDocument(nullptr, (folder / "missing").c_str()));
     const Environment onlyHere("PATH", folder.Path().c_str());
     EXPECT_EQ(62, OpenDocument(nullptr, path.c_str())) << "no opener is there";
-    WriteProgram(folder, "xdg-open", "printf '<%s>' \"$@\" > " + folder.Path("out"));
+    WriteProgram(folder, "xdg-open", "printf '<%s>' \"$@\" > " + (folder / "out"));
     EXPECT_EQ(0, OpenDocument(nullptr, path.c_str()));
     EXPECT_EQ("<" + path + ">", WaitFor(folder, "out", path.size() + 2));
-    std::filesystem::remove(folder.Path("out"));
-    const CurrentFolder current(folder.Path());
+    std::filesystem::remove((folder / "out"));
     EXPECT_EQ(0, OpenDocument(nullptr, "-a b.txt"));
     EXPECT_EQ("<./-a b.txt>", WaitFor(folder, "out", 12));
 }

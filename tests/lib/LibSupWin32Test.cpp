@@ -4,11 +4,10 @@
 #include "lib/Log.h"
 #include "lib/TickCount.h"
 
-#include "support/CurrentFolder.h"
 #include "support/DesktopRecorder.h"
 #include "support/Environment.h"
 #include "support/OrdinaryUser.h"
-#include "support/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +37,7 @@ void LogToStandardError()
 
 // Reading
 
-std::vector<std::string> DataLines(const TempFolder& folder, const std::string& bytes)
+std::vector<std::string> DataLines(const TemporaryFolder& folder, const std::string& bytes)
 {
     const std::string path = folder.Write("data", bytes);
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
@@ -52,7 +51,7 @@ std::vector<std::string> DataLines(const TempFolder& folder, const std::string& 
 
 TEST(LibSupWin32Reading, GivesTheLinesWithContent)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     EXPECT_EQ((Calls{"one", "two", "\"#\" three", "last  "}),
               DataLines(folder, "# head\n\n  \t\r\n one # note\r\ntwo\t \n  #\n \"#\" three#\nlast  "));
     EXPECT_EQ(Calls{}, DataLines(folder, ""));
@@ -114,45 +113,44 @@ TEST(LibSupWin32Reading, CopiesAField)
 
 TEST(LibSupWin32Directories, MakesADirectoryAndThoseAboveIt)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     DesktopRecorder desktop;
-    EXPECT_EQ(0, MakeDirectory(folder.Path("a/b/c").c_str()));
-    EXPECT_TRUE(fs::is_directory(folder.Path("a/b/c")));
-    EXPECT_EQ(0, MakeDirectory(folder.Path("a/b/c").c_str())) << "what stands there is as good";
-    EXPECT_EQ(0, MakeDirectory(folder.Path("d//e/").c_str()));
-    EXPECT_TRUE(fs::is_directory(folder.Path("d/e")));
+    EXPECT_EQ(0, MakeDirectory((folder / "a/b/c").c_str()));
+    EXPECT_TRUE(fs::is_directory((folder / "a/b/c")));
+    EXPECT_EQ(0, MakeDirectory((folder / "a/b/c").c_str())) << "what stands there is as good";
+    EXPECT_EQ(0, MakeDirectory((folder / "d//e/").c_str()));
+    EXPECT_TRUE(fs::is_directory((folder / "d/e")));
     {
-        const CurrentFolder current(folder.Path());
         EXPECT_EQ(0, MakeDirectory("f/g"));
         EXPECT_EQ(0, MakeDirectory("h"));
     }
-    EXPECT_TRUE(fs::is_directory(folder.Path("f/g")));
+    EXPECT_TRUE(fs::is_directory((folder / "f/g")));
     EXPECT_EQ(0, MakeDirectory("/"));
     EXPECT_EQ(Calls{}, desktop.calls);
 }
 
 TEST(LibSupWin32Directories, TellsWhyItCannotMakeADirectory)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     DesktopRecorder desktop;
     folder.Write("file", "");
-    const std::string below = folder.Path("file/a");
+    const std::string below = (folder / "file/a");
     EXPECT_EQ(1, MakeDirectory(below.c_str()));
     EXPECT_EQ(1, MakeDirectory(""));
     EXPECT_EQ((Calls{"stop Error: Err 20, " + below, "stop Error: Err 2, "}), desktop.calls);
-    EXPECT_EQ(0, MakeDirectory(folder.Path("file").c_str())) << "exists, though it is a file";
+    EXPECT_EQ(0, MakeDirectory((folder / "file").c_str())) << "exists, though it is a file";
 }
 
 TEST(LibSupWin32Directories, AMissingParentThatCannotBeMadeIsTold)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     DesktopRecorder desktop;
     ASSERT_EQ(0, chmod(folder.Path().c_str(), 0555));
     EXPECT_EXIT(
         {
             BecomeOrdinaryUser();
-            const int code = MakeDirectory(folder.Path("a/b").c_str());
-            const bool told = desktop.calls == Calls{"stop Error: Err 13, " + folder.Path("a")};
+            const int code = MakeDirectory((folder / "a/b").c_str());
+            const bool told = desktop.calls == Calls{"stop Error: Err 13, " + (folder / "a")};
             std::_Exit(code == 1 && told ? 0 : 1);
         },
         testing::ExitedWithCode(0), "");
@@ -161,9 +159,9 @@ TEST(LibSupWin32Directories, AMissingParentThatCannotBeMadeIsTold)
 
 TEST(LibSupWin32Directories, ABadPathNameIsThrown)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     DesktopRecorder desktop;
-    const std::string path = folder.Path(std::string(300, 'n'));
+    const std::string path = (folder / std::string(300, 'n'));
     ErrCode thrown = ErrCode::None;
     try {
         MakeDirectory(path.c_str());
@@ -176,71 +174,71 @@ TEST(LibSupWin32Directories, ABadPathNameIsThrown)
 
 TEST(LibSupWin32Directories, RemovesWhatStandsBelowADirectory)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const fs::path before = fs::current_path();
-    fs::create_directories(folder.Path("tree/a/b/c"));
+    fs::create_directories((folder / "tree/a/b/c"));
     folder.Write("tree/x", "1");
     folder.Write("tree/a/y", "2");
     folder.Write("tree/a/b/c/z", "3");
-    EXPECT_EQ(0, RemoveTree(folder.Path("tree").c_str()));
-    EXPECT_TRUE(fs::is_directory(folder.Path("tree")));
-    EXPECT_TRUE(fs::is_empty(folder.Path("tree")));
-    EXPECT_EQ(0, RemoveTree(folder.Path("tree").c_str()));
+    EXPECT_EQ(0, RemoveTree((folder / "tree").c_str()));
+    EXPECT_TRUE(fs::is_directory((folder / "tree")));
+    EXPECT_TRUE(fs::is_empty((folder / "tree")));
+    EXPECT_EQ(0, RemoveTree((folder / "tree").c_str()));
     EXPECT_EQ(before, fs::current_path());
-    EXPECT_EQ(1, RemoveTree(folder.Path("missing").c_str()));
+    EXPECT_EQ(1, RemoveTree((folder / "missing").c_str()));
     EXPECT_EQ(1, RemoveTree(folder.Write("file", "").c_str()));
     EXPECT_EQ(1, RemoveTree(""));
-    EXPECT_TRUE(fs::exists(folder.Path("file")));
+    EXPECT_TRUE(fs::exists((folder / "file")));
 }
 
 TEST(LibSupWin32Directories, KeepsEntriesThatBeginWithADot)
 {
-    const TempFolder folder;
-    fs::create_directories(folder.Path("tree/.git/a"));
-    fs::create_directories(folder.Path("tree/b"));
+    const TemporaryFolder folder;
+    fs::create_directories((folder / "tree/.git/a"));
+    fs::create_directories((folder / "tree/b"));
     folder.Write("tree/.hidden", "1");
     folder.Write("tree/shown", "1");
-    EXPECT_EQ(0, RemoveTree(folder.Path("tree").c_str()));
-    EXPECT_TRUE(fs::exists(folder.Path("tree/.git/a")));
-    EXPECT_TRUE(fs::exists(folder.Path("tree/.hidden")));
-    EXPECT_FALSE(fs::exists(folder.Path("tree/b")));
-    EXPECT_FALSE(fs::exists(folder.Path("tree/shown")));
+    EXPECT_EQ(0, RemoveTree((folder / "tree").c_str()));
+    EXPECT_TRUE(fs::exists((folder / "tree/.git/a")));
+    EXPECT_TRUE(fs::exists((folder / "tree/.hidden")));
+    EXPECT_FALSE(fs::exists((folder / "tree/b")));
+    EXPECT_FALSE(fs::exists((folder / "tree/shown")));
 
-    fs::create_directories(folder.Path("tree/b"));
+    fs::create_directories((folder / "tree/b"));
     folder.Write("tree/b/.hidden", "1");
-    EXPECT_EQ(1, RemoveTree(folder.Path("tree").c_str())) << "the directory of a hidden file cannot go";
-    EXPECT_TRUE(fs::exists(folder.Path("tree/b/.hidden")));
+    EXPECT_EQ(1, RemoveTree((folder / "tree").c_str())) << "the directory of a hidden file cannot go";
+    EXPECT_TRUE(fs::exists((folder / "tree/b/.hidden")));
 }
 
 TEST(LibSupWin32Directories, NeverLeavesTheTree)
 {
-    const TempFolder folder;
-    fs::create_directories(folder.Path("outside/deep"));
+    const TemporaryFolder folder;
+    fs::create_directories((folder / "outside/deep"));
     folder.Write("outside/kept", "1");
-    fs::create_directories(folder.Path("tree/a"));
-    fs::create_directory_symlink(folder.Path("outside"), folder.Path("tree/link"));
-    fs::create_directory_symlink("../../outside", folder.Path("tree/a/link"));
-    fs::create_symlink(folder.Path("outside/kept"), folder.Path("tree/file"));
-    fs::create_symlink("loop", folder.Path("tree/loop"));
-    fs::create_directory_symlink(folder.Path("outside"), folder.Path("named"));
-    EXPECT_EQ(0, RemoveTree(folder.Path("tree").c_str()));
-    EXPECT_TRUE(fs::is_empty(folder.Path("tree")));
-    EXPECT_EQ(1, RemoveTree(folder.Path("named").c_str())) << "a link is no tree";
-    EXPECT_EQ(1, RemoveTree(folder.Path("named/").c_str()));
+    fs::create_directories((folder / "tree/a"));
+    fs::create_directory_symlink((folder / "outside"), (folder / "tree/link"));
+    fs::create_directory_symlink("../../outside", (folder / "tree/a/link"));
+    fs::create_symlink((folder / "outside/kept"), (folder / "tree/file"));
+    fs::create_symlink("loop", (folder / "tree/loop"));
+    fs::create_directory_symlink((folder / "outside"), (folder / "named"));
+    EXPECT_EQ(0, RemoveTree((folder / "tree").c_str()));
+    EXPECT_TRUE(fs::is_empty((folder / "tree")));
+    EXPECT_EQ(1, RemoveTree((folder / "named").c_str())) << "a link is no tree";
+    EXPECT_EQ(1, RemoveTree((folder / "named/").c_str()));
     EXPECT_EQ("1", folder.Read("outside/kept"));
-    EXPECT_TRUE(fs::exists(folder.Path("outside/deep")));
+    EXPECT_TRUE(fs::exists((folder / "outside/deep")));
 }
 
 TEST(LibSupWin32Directories, ATreeTooDeepIsLeftInPart)
 {
-    const TempFolder folder;
-    fs::path deep = folder.Path("tree");
+    const TemporaryFolder folder;
+    fs::path deep = (folder / "tree");
     for (int i = 0; i < 505; ++i) {
         deep /= "d";
     }
     fs::create_directories(deep);
-    EXPECT_EQ(1, RemoveTree(folder.Path("tree").c_str()));
-    EXPECT_TRUE(fs::exists(folder.Path("tree/d")));
+    EXPECT_EQ(1, RemoveTree((folder / "tree").c_str()));
+    EXPECT_TRUE(fs::exists((folder / "tree/d")));
 }
 
 TEST(LibSupWin32Directories, ADirectoryIsOneWithoutADot)
@@ -260,7 +258,7 @@ std::string Special(int id)
 
 TEST(LibSupWin32Directories, SpecialFoldersFollowTheXdgDirectories)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string home = folder.Path().string();
     const Environment homeSet("HOME", home.c_str());
     const Environment config("XDG_CONFIG_HOME", nullptr);
@@ -277,7 +275,7 @@ TEST(LibSupWin32Directories, SpecialFoldersFollowTheXdgDirectories)
     EXPECT_EQ("none", Special(-1));
     EXPECT_EQ("none", Special(kSpecialFolderCount));
 
-    fs::create_directory(folder.Path(".config"));
+    fs::create_directory((folder / ".config"));
     folder.Write(".config/user-dirs.dirs",
                  "# made by a tool\n#XDG_MUSIC_DIR=\"/no\"\nXDG_MUSIC_DIRX=\"/no\"\n"
                  "XDG_MUSIC_DIR=\"$HOME/Musik\"\r\n XDG_DOCUMENTS_DIR=\"/srv/texts\"\n"
@@ -409,9 +407,9 @@ TEST(LibSupWin32System, ShowsTheLastError)
 
 TEST(LibSupWin32Shortcut, IsADesktopEntry)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     DesktopRecorder desktop;
-    const std::string link = folder.Path("orreva.desktop");
+    const std::string link = (folder / "orreva.desktop");
     EXPECT_EQ(0, CreateShortcut("/opt/my tools/orreva", link.c_str(), "Spiegel f\xFCr 100%"));
     EXPECT_EQ("[Desktop Entry]\nType=Application\nName=Spiegel für 100%\nComment=Spiegel für 100%\n"
               "Exec=\"/opt/my tools/orreva\"\n",
@@ -425,10 +423,10 @@ TEST(LibSupWin32Shortcut, IsADesktopEntry)
 
 TEST(LibSupWin32Shortcut, TellsTheStepThatFailed)
 {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     DesktopRecorder desktop;
-    const std::string link = folder.Path("a.desktop");
-    const std::string missing = folder.Path("missing/a.desktop");
+    const std::string link = (folder / "a.desktop");
+    const std::string missing = (folder / "missing/a.desktop");
     const std::string tooLong = "/tmp/" + std::string(256, 'a');
     EXPECT_EQ(1, CreateShortcut("/bin/a\nTerminal=true", link.c_str(), "text"));
     EXPECT_EQ(1, CreateShortcut("", link.c_str(), "text"));

@@ -30,14 +30,24 @@ public:
 
     std::string operator/(const std::string& name) const { return (path / name).string(); }
 
-    void Write(const std::string& name, const std::string& bytes) const
+    const std::filesystem::path& Path() const { return path; }
+
+    /// Writes a file and gives its path.
+    std::string Write(const std::string& name, const std::string& bytes) const
     {
         std::ofstream(path / name, std::ios::binary) << bytes;
+        return *this / name;
     }
     std::string Read(const std::string& name) const
     {
         std::ifstream file(path / name, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
+    }
+    /// How many entries stand in the folder.
+    long Count() const
+    {
+        return std::distance(std::filesystem::directory_iterator(path),
+                             std::filesystem::directory_iterator());
     }
 
 private:
