@@ -14,10 +14,10 @@
 
 /// What is done on the freshly opened zone calculator; a field without a text stays as it opens.
 struct ZoneOptions {
-    std::optional<std::string> zones;
-    std::optional<std::string> centre;
-    std::optional<std::string> edge;
-    ZoneView view;
+    std::optional<std::string> zones{};
+    std::optional<std::string> centre{};
+    std::optional<std::string> edge{};
+    ZoneView view{};
 };
 
 /// What a report page may ask for: the one telescope that all pages of a run share, and how to show it.
@@ -31,7 +31,7 @@ struct ReportContext {
     /// The check box Show Details.
     bool details = false;
     const char* eyepiece_path = "eyepiece.dat";
-    ZoneOptions zones;
+    ZoneOptions zones{};
 };
 
 /// Lines without line ends, as bytes of code page 1252.

@@ -9,6 +9,7 @@
 #include "cli/Telescope.h"
 #include "cli/Words.h"
 #include "document/TelescopeFile.h"
+#include "drawing/SectionZoom.h"
 #include "lib/CodePage.h"
 #include "lib/Numbers.h"
 

@@ -1,5 +1,7 @@
 #include "cli/Report.h"
 
+#include "lib/CodePage.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -17,6 +19,16 @@ void MakeMirror200(COrrevaData& record)
     record.GetDistanceBack();
     record.GetFocalPlaneHeight();
     record.GetFocalPlaneHeight();
+}
+
+std::string ReportText(std::span<const ReportPage* const> pages, const ReportContext& context)
+{
+    std::string text;
+    WriteReport(pages, context, [&](const std::string& line) {
+        text += Utf8FromCp1252(line) + '\n';
+        return true;
+    });
+    return text;
 }
 
 class Report : public testing::Test {

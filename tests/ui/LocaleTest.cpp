@@ -1,0 +1,23 @@
+#include "ui/AppFixture.h"
+
+#include "lib/LibString.h"
+#include "lib/Numbers.h"
+
+#include <clocale>
+
+namespace {
+
+class Locale : public AppFixture {};
+
+TEST_F(Locale, NumbersKeepTheirPointWhateverTheUsersLocale)
+{
+    const QByteArray wanted = qgetenv("LC_ALL");
+    EXPECT_EQ(wanted, QByteArray(std::setlocale(LC_TIME, nullptr))) << "the locale of this run is not there";
+    EXPECT_STREQ("C", std::setlocale(LC_NUMERIC, nullptr));
+    LibString text;
+    text.Format("%0.2f", 1.5);
+    EXPECT_STREQ("1.50", text);
+    EXPECT_EQ(2.5, DecimalValue("2.5"));
+}
+
+} // namespace

@@ -1,0 +1,58 @@
+#include "views/ResultList.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QTest>
+
+namespace {
+
+constexpr ListColumn kColumns[] = {{{"Property", "Eigenschaft"}, 280}, {{"Value", "Wert"}, 150, true}};
+
+TEST(ResultList, InsertsEachRowAtTheTop)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kGerman);
+    list.SetRows({{"first", "1"}, {"second", "2"}, {"third", "\xF6"}});
+    EXPECT_EQ(3, list.RowCount());
+    EXPECT_EQ("second", list.Cell(1, 0));
+    EXPECT_EQ("first", list.Cell(2, 0));
+    EXPECT_EQ(QString::fromUtf8("ö"), list.Cell(0, 1));
+    EXPECT_EQ("Eigenschaft", list.model()->headerData(0, Qt::Horizontal).toString());
+    EXPECT_EQ(280, list.header()->sectionSize(0));
+    EXPECT_EQ(QHeaderView::Interactive, list.header()->sectionResizeMode(0));
+    list.SetRows({});
+    EXPECT_EQ(0, list.RowCount());
+}
+
+TEST(ResultList, CopiesTheSelectedRowsAsText)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{"first", "1"}, {"second", "2"}});
+    EXPECT_EQ(-1, list.SelectedRow());
+    list.selectAll();
+    QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ("second\t2\nfirst\t1", QGuiApplication::clipboard()->text());
+    EXPECT_EQ(0, list.SelectedRow());
+}
+
+TEST(ResultList, AThousandMillionRowsAreComputedWhenLookedAt)
+{
+    int computed = 0;
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetComputedRows(1000000000, [&](int row) {
+        ++computed;
+        return ListRow{std::to_string(row), ""};
+    });
+    list.resize(400, 300);
+    list.show();
+    list.grab();
+    EXPECT_EQ("999999999", list.Cell(999999999, 0));
+    EXPECT_LT(computed, 1000);
+}
+
+} // namespace
