@@ -1,6 +1,7 @@
 #include "document/OrrevaDoc.h"
 #include "document/TelescopeFile.h"
 #include "document/XmlScanner.h"
+#include "lib/Log.h"
 #include "model/RecordFields.h"
 #include "support/DirectScanner.h"
 #include "support/SilentHost.h"
@@ -23,6 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
     }
 
+    SetLogSink(nullptr);
     SilentHost host;
     COrrevaDoc document(host);
     document.active_record->Reset();

@@ -4,11 +4,13 @@
 #include "document/OsloExport.h"
 #include "document/TelescopeFile.h"
 #include "document/XmlScanner.h"
+#include "lib/Log.h"
 #include "support/SilentHost.h"
 
 // Any bytes as an old file; what came in must go out by every way that writes a telescope.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
+    SetLogSink(nullptr);
     SilentHost host;
     COrrevaDoc document(host);
     OldArchive archive({reinterpret_cast<const char*>(data), size});
