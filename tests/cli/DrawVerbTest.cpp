@@ -2,7 +2,7 @@
 
 #include "lib/Language.h"
 #include "support/SampleScopes.h"
-#include "support/TempFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -23,13 +23,13 @@ protected:
     }
     QImage Drawn(const char* picture)
     {
-        EXPECT_EQ(0, Draw(picture, folder.Path("drawn.png")));
-        return QImage(QString::fromStdString(folder.Path("drawn.png")));
+        EXPECT_EQ(0, Draw(picture, folder / "drawn.png"));
+        return QImage(QString::fromStdString(folder / "drawn.png"));
     }
 
     COrrevaData record;
     DrawOptions options;
-    TempFolder folder;
+    TemporaryFolder folder;
 };
 
 TEST_F(DrawVerb, KnowsItsPicturesAndForms)
@@ -110,12 +110,12 @@ TEST_F(DrawVerb, WritesVectorForms)
 {
     options.mode = RayMode::kParallel;
     options.pointer = {500, 80};
-    ASSERT_EQ(0, Draw("section", folder.Path("a.svg")));
+    ASSERT_EQ(0, Draw("section", folder / "a.svg"));
     const std::string svg = folder.Read("a.svg");
     EXPECT_NE(std::string::npos, svg.find("viewBox=\"0 0 400 300\""));
     EXPECT_NE(std::string::npos, svg.find("Illumination: 75.32%"));
     EXPECT_NE(std::string::npos, svg.find("#ffff00")) << "yellow rays";
-    ASSERT_EQ(0, Draw("section", folder.Path("a.pdf")));
+    ASSERT_EQ(0, Draw("section", folder / "a.pdf"));
     const std::string pdf = folder.Read("a.pdf");
     EXPECT_EQ("%PDF-", pdf.substr(0, 5));
     EXPECT_NE(std::string::npos, pdf.find("/MediaBox [0 0 400.000000 300.000000]"));
@@ -124,10 +124,10 @@ TEST_F(DrawVerb, WritesVectorForms)
 
 TEST_F(DrawVerb, WritesTheFileWholeOrNotAtAll)
 {
-    const std::string missing = folder.Path("no such folder/a.png");
+    const std::string missing = folder / "no such folder/a.png";
     EXPECT_EQ(1, Draw("section", missing));
     EXPECT_EQ(0, folder.Count());
-    EXPECT_EQ(0, Draw("summary", folder.Path("a.png")));
+    EXPECT_EQ(0, Draw("summary", folder / "a.png"));
     EXPECT_EQ(1, folder.Count()) << "nothing is left beside it";
 }
 
