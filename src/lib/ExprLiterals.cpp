@@ -10,7 +10,8 @@
 
 namespace {
 
-bool IsLatinLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+/// Words begin with one of the 26 letters; an umlaut begins none.
+bool IsAsciiLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 bool StartsWithAny(std::initializer_list<const char*> words, const char* psz)
 {
@@ -133,7 +134,7 @@ int TakeYear(const char*& psz)
 double ReadTimeLiteral(const char* psz)
 {
     psz = SkipBlanks(psz);
-    if (IsLatinLetter(*psz)) {
+    if (IsAsciiLetter(*psz)) {
         return TimeOfWord(psz);
     }
     const double dHour = TakeHour(psz);
@@ -149,7 +150,7 @@ CalDate ReadDateLiteral(const char* psz)
     if (*psz == ')') {
         throw ErrCode::EmptyBrackets;
     }
-    if (IsLatinLetter(*psz)) {
+    if (IsAsciiLetter(*psz)) {
         return DateOfWord(psz);
     }
     psz = SkipBlanks(psz);

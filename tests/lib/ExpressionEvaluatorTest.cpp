@@ -333,7 +333,8 @@ TEST(ExpressionEvaluator, ReportsBadLiterals)
                   {"date(1.1.)", 17186, ""},    {"date(1.1.1)", 17186, ""},
                   {"date(1.1.200)", 17186, ""}, {"date((1.1.2000))", 17016, "date"},
                   {"date(foo)", 17179, ""},     {"date(Today)", 17179, ""},
-                  {"date( today)", 17184, ""},  {"date(tomorrow)", 17179, ""}});
+                  {"date( today)", 17184, ""},  {"date(\xE4)", 17184, ""},
+                  {"time(\xE4)", 17187, ""},    {"date(tomorrow)", 17179, ""}});
 }
 
 TEST(ExpressionEvaluator, CountsDatesInDaysFromTheFirst)
