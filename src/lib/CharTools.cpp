@@ -41,6 +41,27 @@ const char* MatchPrefix(const char* prefix, const char* p, Fold fold)
 const char* SkipBlanks(const char* p) { return SkipWhile(p, IsBlank); }
 const char* SkipAll(const char* p) { return SkipWhile(p, IsBlankOrLineEnd); }
 
+const char* SkipSource(const char* psz, bool* pbOpen)
+{
+    bool open = false;
+    const char* p = psz;
+    for (const char* start = nullptr; p != start;) {
+        start = p;
+        p = SkipWhile(p, [](char c) { return c >= 1 && c <= ' '; });
+        if (StartsWith("//", p) != nullptr) {
+            p += std::strcspn(p, "\r\n");
+        } else if (StartsWith("/*", p) != nullptr) {
+            const char* const end = FindText("*/", p + 2);
+            open = end == nullptr;
+            p = open ? p + std::strlen(p) : end + 2;
+        }
+    }
+    if (pbOpen != nullptr) {
+        *pbOpen = open;
+    }
+    return p;
+}
+
 char* TrimRight(char* psz) { return CutWhile(psz, IsBlank); }
 char* TrimRightAll(char* psz) { return CutWhile(psz, IsBlankOrLineEnd); }
 char* TrimAll(char* psz) { return TrimRightAll(psz) + (SkipAll(psz) - psz); }

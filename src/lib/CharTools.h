@@ -16,6 +16,10 @@ const char* SkipBlanks(const char* p);
 /// Pointer past blanks, tabs and line ends.
 const char* SkipAll(const char* p);
 
+/// Pointer past bytes from 1 to 32, `//` comments that end before a CR or LF, and `/* */` comments. An open
+/// comment ends with the text; `pbOpen`, if not null, tells whether there was one.
+const char* SkipSource(const char* psz, bool* pbOpen = nullptr);
+
 /// Cuts blanks and tabs at the end; gives the text.
 char* TrimRight(char* psz);
 /// Cuts blanks, tabs and line ends at the end; gives the text.

@@ -7,33 +7,6 @@
 
 namespace {
 
-const char* SkipWhite(const char* psz)
-{
-    while (*psz != 0 && static_cast<unsigned char>(*psz) <= ' ') {
-        ++psz;
-    }
-    return psz;
-}
-
-/// Pointer past the comment that begins here; `psz` itself when none does.
-const char* SkipComment(const char* psz)
-{
-    if (psz[0] != '/') {
-        return psz;
-    }
-    if (psz[1] == '/') {
-        return psz + std::strcspn(psz, "\r\n");
-    }
-    if (psz[1] != '*') {
-        return psz;
-    }
-    const char* const pszClose = std::strstr(psz + 2, "*/");
-    if (pszClose == nullptr) {
-        throw ErrCode::OpenComment;
-    }
-    return pszClose + 2;
-}
-
 struct Operator {
     char c;
     bool bDoubled;
@@ -52,13 +25,12 @@ constexpr Operator kOperators[] = {
 
 const char* SkipExprBlanks(const char* psz)
 {
-    for (;;) {
-        const char* const pszText = SkipWhite(psz);
-        psz = SkipComment(pszText);
-        if (psz == pszText) {
-            return psz;
-        }
+    bool bOpen = false;
+    const char* const pszText = SkipSource(psz, &bOpen);
+    if (bOpen) {
+        throw ErrCode::OpenComment;
     }
+    return pszText;
 }
 
 ExprToken ReadExprToken(const char* psz)

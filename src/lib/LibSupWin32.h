@@ -63,7 +63,7 @@ bool GetSpecialFolder(LibString& target, int id);
 /// Lets a folder be chosen on the desktop; false for none. `hParent` is the window that asks, null for none.
 bool BrowseFolder(void* hParent, LibString& target, const char* pszRoot);
 
-// Text
+// Text, beside SkipSource, which is the evaluator's too
 
 inline const char* SkipSpace(const char* p) { return SkipBlanks(p); }
 inline const char* SkipSpaceAll(const char* p) { return SkipAll(p); }
@@ -94,8 +94,6 @@ LibString UnquoteField(const char* psz);
 /// Folds a text in place through FoldLower or FoldUpper, and gives it.
 char* ToLower(char* psz);
 char* ToUpper(char* psz);
-/// Pointer past bytes from 1 to 32, `//` comments and `/* */` comments; an open comment ends with the text.
-const char* SkipSource(const char* psz);
 
 // Tables
 

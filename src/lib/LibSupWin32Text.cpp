@@ -106,19 +106,3 @@ char* ToUpper(char* psz)
     std::transform(psz, psz + std::strlen(psz), psz, FoldUpper);
     return psz;
 }
-
-const char* SkipSource(const char* psz)
-{
-    for (const char* p = psz;;) {
-        if (*p >= 1 && *p <= ' ') {
-            ++p;
-        } else if (StartsWith("//", p) != nullptr) {
-            p += std::strcspn(p, "\r\n");
-        } else if (StartsWith("/*", p) != nullptr) {
-            const char* const end = FindText("*/", p + 2);
-            p = end != nullptr ? end + 2 : p + std::strlen(p);
-        } else {
-            return p;
-        }
-    }
-}

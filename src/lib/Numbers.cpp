@@ -25,7 +25,7 @@ std::int32_t TruncToInt32(double value)
 
 namespace {
 
-const char* SkipSpace(const char* p)
+const char* SkipWhiteSpace(const char* p)
 {
     while (*p == ' ' || (*p >= '\t' && *p <= '\r')) {
         ++p;
@@ -68,7 +68,7 @@ const char* DecimalEnd(const char* p)
 
 double DecimalValue(const char* psz)
 {
-    const char* const start = SkipSpace(psz);
+    const char* const start = SkipWhiteSpace(psz);
     const char* const number = start + (*start == '-' || *start == '+' ? 1 : 0);
     const char* const end = DecimalEnd(number);
     // strtod alone would also take hexadecimal numbers and words, so it gets the decimal number and no more.
@@ -77,7 +77,7 @@ double DecimalValue(const char* psz)
 
 std::int32_t IntegerValue(const char* psz)
 {
-    const char* const start = SkipSpace(psz);
+    const char* const start = SkipWhiteSpace(psz);
     const bool negative = *start == '-';
     double value = 0.0; // exact far beyond 32 bits
     for (const char* p = start + (negative || *start == '+' ? 1 : 0); IsDigit(*p); ++p) {
