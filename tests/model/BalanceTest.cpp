@@ -10,9 +10,11 @@ namespace {
 /// Nine easy components: 1 kg at 100 mm, 2 kg at 200 mm and so on.
 void MakeStaircase(COrrevaData& record)
 {
-    for (std::size_t i = 0; i < kBalanceCount; ++i) {
-        (record.*kBalanceComponents[i].weight.set)(1000.0 * static_cast<double>(i + 1));
-        (record.*kBalanceComponents[i].balance.set)(100.0 * static_cast<double>(i + 1));
+    double step = 0;
+    for (const BalanceComponent& component : kBalanceComponents) {
+        step += 1;
+        (record.*component.weight.set)(1000 * step);
+        (record.*component.balance.set)(100 * step);
     }
 }
 
