@@ -1,6 +1,7 @@
 #include "app/Modals.h"
 
 #include "document/OrrevaDoc.h"
+#include "pages/MyPropertySheet0.h"
 
 #include <QDialog>
 
@@ -19,7 +20,7 @@ struct Entry {
 };
 
 constexpr Entry kEntries[] = {
-    {Modal::TelescopeSheet, nullptr},
+    {Modal::TelescopeSheet, Run<CMyPropertySheet0>},
 };
 
 } // namespace

@@ -107,7 +107,9 @@ void CPropertySheet::AddPanel(QWidget* panel)
 
 void CPropertySheet::showEvent(QShowEvent* event)
 {
-    Activate(tabs->currentIndex());
+    if (!event->spontaneous()) { // a window that comes back from its icon is no new visit
+        Activate(tabs->currentIndex());
+    }
     QDialog::showEvent(event);
 }
 

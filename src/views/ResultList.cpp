@@ -128,7 +128,8 @@ QString CResultList::Cell(int row, int column) const
 int CResultList::SelectedRow() const
 {
     const QModelIndexList rows = selectionModel()->selectedRows();
-    return rows.isEmpty() ? -1 : rows.constFirst().row();
+    const auto topmost = std::ranges::min_element(rows, {}, &QModelIndex::row);
+    return topmost == rows.end() ? -1 : topmost->row();
 }
 
 void CResultList::CopySelection() const

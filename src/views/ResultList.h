@@ -27,7 +27,7 @@ public:
 
     int RowCount() const;
     QString Cell(int row, int column) const;
-    /// The selected row, counted from the top; -1 for none.
+    /// The selected row, the topmost of several, counted from the top; -1 for none.
     int SelectedRow() const;
 
     void CopySelection() const;

@@ -1,0 +1,9 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+ <name>MyPropertyPage07</name>
+ <message><source>Designation</source><translation>Bezeichnung</translation></message>
+ <message><source>Results</source><translation>Ergebnisse</translation></message>
+</context>
+</TS>

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QWidget>
+
+/// The Info and help pictures, 1019 and 1020, at the left edge of a page.
+class CHelpStrip : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int kInfoControl = 1019;
+    static constexpr int kHelpControl = 1020;
+
+    explicit CHelpStrip(QWidget* parent = nullptr);
+};

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QToolButton>
+
+/// The small button beside a field that puts it back to what the program proposes.
+class CResetButton : public QToolButton {
+    Q_OBJECT
+
+public:
+    explicit CResetButton(QWidget* parent = nullptr) : QToolButton(parent)
+    {
+        setIcon(QIcon(":/icons/reset.svg"));
+        setAutoRaise(true);
+        setFocusPolicy(Qt::StrongFocus);
+        setToolTip(tr("Put back to the proposed value"));
+        setAccessibleName(toolTip());
+    }
+};
