@@ -105,7 +105,7 @@ bool COrrevaApp::ProcessShellCommand(const QStringList& arguments)
 {
     for (const QString& word : arguments) {
         if (!word.startsWith('-')) {
-            return document->OpenOldFile(QFile::encodeName(word).constData());
+            return document->OpenOldFormat(QFile::encodeName(word).constData());
         }
     }
     return true;
