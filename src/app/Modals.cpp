@@ -1,6 +1,9 @@
 #include "app/Modals.h"
 
 #include "document/OrrevaDoc.h"
+#include "pages/PropertySheetCouder.h"
+#include "pages/PropertySheetMatchingRonchi.h"
+#include "pages/PropertySheetTube.h"
 
 #include <QDialog>
 
@@ -20,6 +23,9 @@ struct Entry {
 
 constexpr Entry kEntries[] = {
     {Modal::TelescopeSheet, nullptr},
+    {Modal::TubeSheet, Run<CPropertySheetTube>},
+    {Modal::FoucaultSheet, Run<CPropertySheetCouder>},
+    {Modal::RonchiSheet, Run<CPropertySheetMatchingRonchi>},
 };
 
 } // namespace
