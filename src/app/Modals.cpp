@@ -2,6 +2,9 @@
 
 #include "document/OrrevaDoc.h"
 #include "pages/MyPropertySheet0.h"
+#include "pages/PropertySheetCouder.h"
+#include "pages/PropertySheetMatchingRonchi.h"
+#include "pages/PropertySheetTube.h"
 
 #include <QDialog>
 
@@ -21,6 +24,9 @@ struct Entry {
 
 constexpr Entry kEntries[] = {
     {Modal::TelescopeSheet, Run<CMyPropertySheet0>},
+    {Modal::TubeSheet, Run<CPropertySheetTube>},
+    {Modal::FoucaultSheet, Run<CPropertySheetCouder>},
+    {Modal::RonchiSheet, Run<CPropertySheetMatchingRonchi>},
 };
 
 } // namespace

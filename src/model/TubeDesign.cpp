@@ -34,9 +34,9 @@ void StoreWallThickness(COrrevaData& record, const std::string& text)
     record.ResetCaches();
 }
 
-std::string ResetWallThickness(COrrevaData& record)
+std::string ResetTubeMeasure(COrrevaData& record, const NumberField& field)
 {
-    std::string text = ResetNumber(record, kTubeThickness);
+    std::string text = ResetNumber(record, field);
     record.ResetCaches();
     return text;
 }

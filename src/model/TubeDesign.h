@@ -33,7 +33,9 @@ void StoreTubeMeasures(COrrevaData& record, const TubeMeasures& texts, TubeDesig
 
 /// The second page of a solid tube: the wall's thickness (kTubeThickness), after which all caches are unset.
 void StoreWallThickness(COrrevaData& record, const std::string& text);
-std::string ResetWallThickness(COrrevaData& record);
+
+/// A reset button of the first page or of the wall's thickness: the field's new text. All caches are unset.
+std::string ResetTubeMeasure(COrrevaData& record, const NumberField& field);
 
 inline constexpr NumberField kTrussBoxThickness{&COrrevaData::GetThicknessBox, &COrrevaData::SetThicknessBox,
                                                 "%0.1f"};

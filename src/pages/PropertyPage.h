@@ -36,8 +36,8 @@ signals:
     void WizardButtons(unsigned buttons);
 
 protected:
-    /// The document's Recalculate, which ends every Apply.
-    virtual void Recalculate() = 0;
+    /// The document's Recalculate, which ends every Apply; nothing for a page that stores nothing there.
+    virtual void Recalculate() {}
 
     /// The Info and help pictures at the page's edge: controls of these numbers open help on the contexts.
     void BindHelp(int infoControl, int helpControl, long helpContext);

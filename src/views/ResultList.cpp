@@ -16,6 +16,10 @@ namespace {
 /// So that a list of a thousand million rows is not pasted by accident.
 constexpr qsizetype kMostCopiedRows = 10000;
 
+/// The toolkit's list keeps something for each row that it is told of, so it is told of more only when the
+/// user has scrolled to the end of those it has.
+constexpr int kRowsAtOnce = 1000;
+
 } // namespace
 
 class ResultModel : public QAbstractTableModel {
@@ -28,6 +32,7 @@ public:
         columns.assign(newColumns.begin(), newColumns.end());
         language = newLanguage;
         count = 0;
+        told = 0;
         endResetModel();
     }
 
@@ -35,11 +40,29 @@ public:
     {
         beginResetModel();
         count = newCount;
+        told = std::min(count, kRowsAtOnce);
         row = std::move(newRow);
         endResetModel();
     }
 
-    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : count; }
+    int Count() const { return count; }
+
+    QString Cell(int index, int column) const
+    {
+        const ListRow cells = row(index);
+        const auto place = static_cast<std::size_t>(column);
+        return place < cells.size() ? ToQString(cells[place]) : QString();
+    }
+
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : told; }
+    bool canFetchMore(const QModelIndex& parent) const override { return !parent.isValid() && told < count; }
+    void fetchMore(const QModelIndex&) override
+    {
+        const int more = std::min(count - told, kRowsAtOnce);
+        beginInsertRows({}, told, told + more - 1);
+        told += more;
+        endInsertRows();
+    }
     int columnCount(const QModelIndex& parent = {}) const override
     {
         return parent.isValid() ? 0 : static_cast<int>(columns.size());
@@ -48,9 +71,7 @@ public:
     QVariant data(const QModelIndex& index, int role) const override
     {
         if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
-            const ListRow cells = row(index.row());
-            const auto column = static_cast<std::size_t>(index.column());
-            return column < cells.size() ? ToQString(cells[column]) : QString();
+            return Cell(index.row(), index.column());
         }
         return role == Qt::TextAlignmentRole ? Alignment(index.column()) : QVariant();
     }
@@ -78,6 +99,7 @@ private:
     std::vector<ListColumn> columns;
     std::function<ListRow(int)> row;
     int count = 0;
+    int told = 0; ///< how many of them the toolkit knows
     int language = 0;
 };
 
@@ -118,12 +140,9 @@ void CResultList::SetComputedRows(int count, std::function<ListRow(int)> row)
     model->SetRows(count, std::move(row));
 }
 
-int CResultList::RowCount() const { return model->rowCount(); }
+int CResultList::RowCount() const { return model->Count(); }
 
-QString CResultList::Cell(int row, int column) const
-{
-    return model->data(model->index(row, column), Qt::DisplayRole).toString();
-}
+QString CResultList::Cell(int row, int column) const { return model->Cell(row, column); }
 
 int CResultList::SelectedRow() const
 {

@@ -113,7 +113,7 @@ TEST(TubeDesign, WallThicknessIsStoredAndReset)
     StoreWallThickness(record, "7.5");
     EXPECT_DOUBLE_EQ(7.5, record.thickness_hat);
     EXPECT_TRUE(IsUnset(record.focuser_total_height));
-    EXPECT_EQ("5.0", ResetWallThickness(record));
+    EXPECT_EQ("5.0", ResetTubeMeasure(record, kTubeThickness));
     EXPECT_TRUE(IsUnset(record.focal_plane_height));
 }
 

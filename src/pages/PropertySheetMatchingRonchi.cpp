@@ -1,0 +1,22 @@
+#include "pages/PropertySheetMatchingRonchi.h"
+
+#include "pages/PropertyPageMatchingRonchi1.h"
+#include "pages/PropertyPageMatchingRonchi2.h"
+
+#include <QScreen>
+
+namespace {
+
+constexpr QSize kRoomForThePicture(690, 790);
+
+} // namespace
+
+CPropertySheetMatchingRonchi::CPropertySheetMatchingRonchi(COrrevaDoc& document, QWidget* parent)
+    : CPropertySheet(tr("Properties"), parent)
+{
+    AddPage("Setup",
+            [&document](QWidget* place) { return new CPropertyPageMatchingRonchi1(document, place); });
+    AddPage("Simulation",
+            [&document](QWidget* place) { return new CPropertyPageMatchingRonchi2(document, place); });
+    resize(kRoomForThePicture.boundedTo(screen()->availableSize()));
+}

@@ -1,0 +1,35 @@
+#include "views/MatchingRonchiWidget.h"
+
+#include "document/OrrevaDoc.h"
+#include "drawing/RonchiPicture.h"
+#include "views/PainterSurface.h"
+
+#include <QPainter>
+
+#include <ctime>
+
+namespace {
+
+constexpr int kSimulationControl = 1043;
+// Room for the patterns with a margin around them.
+constexpr int kWidth = 640;
+constexpr int kHeight = 680;
+
+} // namespace
+
+CMatchingRonchiWidget::CMatchingRonchiWidget(COrrevaDoc& doc, QWidget* parent)
+    : QWidget(parent), document(doc), grating(doc.active_record->GetRonchiGrating()),
+      constant(doc.active_record->GetRonchiConstant())
+{
+    setProperty("controlId", kSimulationControl);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(kWidth, kHeight);
+}
+
+void CMatchingRonchiWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    PainterSurface surface(painter, width(), height());
+    DrawRonchiPicture(surface, *document.active_record, grating, constant,
+                      static_cast<std::uint32_t>(std::time(nullptr)));
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+class COrrevaDoc;
+
+/// The nine patterns of the matching Ronchi test. The dots are thrown anew, from the time, at every repaint;
+/// grating (lines/mm) and conic constant are the record's from when the widget was made, the mirror is read
+/// at every repaint.
+class CMatchingRonchiWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    CMatchingRonchiWidget(COrrevaDoc& document, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    COrrevaDoc& document;
+    double grating;
+    double constant;
+};

@@ -1,0 +1,9 @@
+#include "views/MirrorPanel.h"
+
+#include "document/OrrevaDoc.h"
+#include "drawing/MirrorPanelPicture.h"
+
+void CMirrorPanel::Paint(Surface& surface, Colour background)
+{
+    PaintMirrorPanel(surface, *document.active_record, background);
+}

@@ -1,0 +1,31 @@
+#include "views/Panel.h"
+
+#include "views/PainterSurface.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int kPanelControl = 4096;
+constexpr int kLeastHeight = 330; // rows, and below them a picture of 260 pixels
+
+Colour ToColour(const QColor& color)
+{
+    return {static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
+            static_cast<std::uint8_t>(color.blue())};
+}
+
+} // namespace
+
+CPanel::CPanel(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), document(doc)
+{
+    setProperty("controlId", kPanelControl);
+    setMinimumHeight(kLeastHeight);
+}
+
+void CPanel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    PainterSurface surface(painter, width(), height());
+    Paint(surface, ToColour(palette().color(QPalette::Window)));
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "drawing/Surface.h"
+
+#include <QWidget>
+
+class COrrevaDoc;
+
+/// A painted panel beside the pages of a sheet, its child window 4096. It has no data of its own: it reads
+/// the document's active record whenever it is painted, and lies on the sheet's own background.
+class CPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    CPanel(COrrevaDoc& document, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    virtual void Paint(Surface& surface, Colour background) = 0;
+
+    COrrevaDoc& document;
+};

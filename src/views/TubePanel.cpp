@@ -1,0 +1,10 @@
+#include "views/TubePanel.h"
+
+#include "document/OrrevaDoc.h"
+#include "drawing/TubePanelPicture.h"
+#include "lib/Language.h"
+
+void CTubePanel::Paint(Surface& surface, Colour background)
+{
+    PaintTubePanel(surface, *document.active_record, g_nLanguage, background);
+}
