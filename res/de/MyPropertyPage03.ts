@@ -5,9 +5,7 @@
  <name>MyPropertyPage03</name>
  <message><source>Inner Diameter (mm)</source><translation>Innendurchmesser (mm)</translation></message>
  <message><source>Hieght of retracted Focuser (mm)</source><translation>Höhe des (eingefahrenen) Focusers (mm)</translation></message>
- <message><source>Height of Focal Plane above retracted Focuser
-(additional height for eyepieces and correctors, mm)</source><translation>Höhe der Brennebene über dem (eingefahrenen) Focuser
-(zusätzliche Höhe für Okulare und Korrektoren, mm)</translation></message>
+ <message><source>Height of Focal Plane above retracted Focuser&#10;(additional height for eyepieces and correctors, mm)</source><translation>Höhe der Brennebene über dem (eingefahrenen) Focuser&#10;(zusätzliche Höhe für Okulare und Korrektoren, mm)</translation></message>
  <message><source>Focuser</source><comment>group</comment><translation>Auszug</translation></message>
  <message><source>Travel (mm)</source><translation>Verstellweg des Innenrohres (Travel)</translation></message>
  <message><source>Pipe Length</source><translation>Länge des Innenrohres</translation></message>

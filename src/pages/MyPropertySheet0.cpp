@@ -18,13 +18,13 @@ CPropertyPage* Make(COrrevaDoc& document, QWidget* parent)
     return new Page(document, parent);
 }
 
-struct Entry {
+struct PageOfSheet {
     const char* title;
     CPropertyPage* (*make)(COrrevaDoc&, QWidget*);
 };
 
 /// In the order of the tabs, which the classes' numbers do not follow.
-constexpr Entry kPages[] = {
+constexpr PageOfSheet kPages[] = {
     {QT_TRANSLATE_NOOP("CMyPropertySheet0", "General Remarks"), Make<CMyPropertyPage01>},
     {QT_TRANSLATE_NOOP("CMyPropertySheet0", "Primary"), Make<CMyPropertyPage02>},
     {QT_TRANSLATE_NOOP("CMyPropertySheet0", "Tube"), Make<CMyPropertyPage06>},
@@ -40,12 +40,12 @@ constexpr Entry kPages[] = {
 CMyPropertySheet0::CMyPropertySheet0(COrrevaDoc& document, QWidget* parent)
     : CPropertySheet(tr("Telescope Properties"), parent)
 {
-    for (const Entry& page : kPages) {
+    for (const PageOfSheet& page : kPages) {
         AddPage(tr(page.title),
                 [&document, make = page.make](QWidget* place) { return make(document, place); });
     }
     if (g_nWizard != 0) {
         SetWizardMode();
     }
-    resize(720, 620); // room for the longest list, so that the sheet keeps its size from page to page
+    resize(820, 640); // room for the longest list, so that the sheet keeps its size from page to page
 }

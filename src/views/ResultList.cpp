@@ -114,6 +114,7 @@ CResultList::CResultList(QWidget* parent) : QTreeView(parent), model(new ResultM
     setTabKeyNavigation(false);
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
+    connect(header(), &QHeaderView::sectionResized, this, [this] { sizedByUser = true; });
 
     auto* const copy = new QAction(tr("Copy"), this);
     connect(copy, &QAction::triggered, this, &CResultList::CopySelection);
@@ -127,12 +128,27 @@ void CResultList::SetColumns(std::span<const ListColumn> columns, int language)
     for (std::size_t i = 0; i < columns.size(); ++i) {
         header()->resizeSection(static_cast<int>(i), columns[i].width);
     }
+    sizedByUser = false;
 }
 
 void CResultList::SetRows(const ListRows& rows)
 {
     SetComputedRows(static_cast<int>(rows.size()),
                     [rows](int i) { return rows[rows.size() - 1 - static_cast<std::size_t>(i)]; });
+    WidenColumns();
+}
+
+/// The widths that columns start with suit most rows; room is made for longer ones, until the user resizes.
+void CResultList::WidenColumns()
+{
+    if (sizedByUser) {
+        return;
+    }
+    for (int column = 0; column < model->columnCount(); ++column) {
+        header()->resizeSection(column, std::max({columnWidth(column), sizeHintForColumn(column),
+                                                  header()->sectionSizeHint(column)}));
+    }
+    sizedByUser = false;
 }
 
 void CResultList::SetComputedRows(int count, std::function<ListRow(int)> row)
