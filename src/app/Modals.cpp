@@ -1,7 +1,13 @@
 #include "app/Modals.h"
 
 #include "document/OrrevaDoc.h"
+#include "pages/ArtificialStarDialog.h"
+#include "pages/CalculatorDialog.h"
+#include "pages/FieldSimulationDlg.h"
+#include "pages/InchDialog.h"
 #include "pages/MyPropertySheet0.h"
+#include "pages/PolygonDialog.h"
+#include "pages/SectorDialog.h"
 
 #include <QDialog>
 
@@ -14,13 +20,23 @@ bool Run(COrrevaDoc& document, QWidget* parent)
     return dialog.exec() == QDialog::Accepted;
 }
 
+/// A tool that stands apart from the document.
+template <typename Dialog>
+bool RunTool(COrrevaDoc&, QWidget* parent)
+{
+    return Dialog(parent).exec() == QDialog::Accepted;
+}
+
 struct Entry {
     Modal modal;
     bool (*run)(COrrevaDoc&, QWidget*);
 };
 
 constexpr Entry kEntries[] = {
-    {Modal::TelescopeSheet, Run<CMyPropertySheet0>},
+    {Modal::TelescopeSheet, Run<CMyPropertySheet0>},    {Modal::ArtificialStar, Run<CArtificialStarDialog>},
+    {Modal::FieldSimulation, Run<CFieldSimulationDlg>}, {Modal::Calculator, RunTool<CCalculatorDialog>},
+    {Modal::InchCalculator, RunTool<CInchDialog>},      {Modal::PolygonCalculator, RunTool<CPolygonDialog>},
+    {Modal::SectorCalculator, RunTool<CSectorDialog>},
 };
 
 } // namespace
