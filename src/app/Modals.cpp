@@ -1,10 +1,16 @@
 #include "app/Modals.h"
 
 #include "document/OrrevaDoc.h"
+#include "pages/ArtificialStarDialog.h"
+#include "pages/CalculatorDialog.h"
+#include "pages/FieldSimulationDlg.h"
+#include "pages/InchDialog.h"
 #include "pages/MyPropertySheet0.h"
+#include "pages/PolygonDialog.h"
 #include "pages/PropertySheetCouder.h"
 #include "pages/PropertySheetMatchingRonchi.h"
 #include "pages/PropertySheetTube.h"
+#include "pages/SectorDialog.h"
 
 #include <QDialog>
 
@@ -17,6 +23,13 @@ bool Run(COrrevaDoc& document, QWidget* parent)
     return dialog.exec() == QDialog::Accepted;
 }
 
+/// A tool that stands apart from the document.
+template <typename Dialog>
+bool RunTool(COrrevaDoc&, QWidget* parent)
+{
+    return Dialog(parent).exec() == QDialog::Accepted;
+}
+
 struct Entry {
     Modal modal;
     bool (*run)(COrrevaDoc&, QWidget*);
@@ -27,6 +40,12 @@ constexpr Entry kEntries[] = {
     {Modal::TubeSheet, Run<CPropertySheetTube>},
     {Modal::FoucaultSheet, Run<CPropertySheetCouder>},
     {Modal::RonchiSheet, Run<CPropertySheetMatchingRonchi>},
+    {Modal::ArtificialStar, Run<CArtificialStarDialog>},
+    {Modal::FieldSimulation, Run<CFieldSimulationDlg>},
+    {Modal::Calculator, RunTool<CCalculatorDialog>},
+    {Modal::InchCalculator, RunTool<CInchDialog>},
+    {Modal::PolygonCalculator, RunTool<CPolygonDialog>},
+    {Modal::SectorCalculator, RunTool<CSectorDialog>},
 };
 
 } // namespace
@@ -34,7 +53,7 @@ constexpr Entry kEntries[] = {
 bool RunModalDialog(Modal modal, COrrevaDoc& document, QWidget* parent)
 {
     for (const Entry& entry : kEntries) {
-        if (entry.modal == modal && entry.run != nullptr) {
+        if (entry.modal == modal) {
             return entry.run(document, parent);
         }
     }

@@ -7,21 +7,12 @@
 
 namespace {
 
-constexpr std::array<const char*, kSectorTypeCount> kEnglishTypes{"Angle", "Cutting Length", "Sagitta"};
-constexpr std::array<const char*, kSectorTypeCount> kGermanTypes{"Pfeiltiefe", "Schnittlänge"_cp1252,
-                                                                 "Winkel"};
-
 constexpr Bilingual kOnlyAngles{"Sorry, only Angles, yet.", "Sorry, bis jetzt nur Winkel."};
 constexpr Bilingual kAngleRange{"Sorry, only Angles between 0° und 360°."_cp1252,
                                 "Sorry, nur Winkel zwischen 0° und 360°."_cp1252};
 constexpr Bilingual kBadDiameter{"Error in Diameter.", "Fehlerhafter Durchmesser."};
 
 } // namespace
-
-std::array<const char*, kSectorTypeCount> SectorTypeNames(int language)
-{
-    return language == kGerman ? kGermanTypes : kEnglishTypes;
-}
 
 SectorMeasures MeasureSector(const SectorInput& input)
 {

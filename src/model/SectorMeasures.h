@@ -1,14 +1,10 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <string>
 
-/// Rows of the sector calculator's list of types. The list is sorted by the texts of its language, but the
-/// program takes row 2 to be the angle, which it is in German alone; in English that row says sagitta. Kept.
-inline constexpr std::int32_t kSectorTypeCount = 3;
+/// The row of the sector calculator's list that the program takes to be the angle. The list is sorted by the
+/// texts of its language, so it is the angle in German alone; in English that row says sagitta. Kept.
 inline constexpr std::int32_t kSectorAngleType = 2;
-std::array<const char*, kSectorTypeCount> SectorTypeNames(int language);
 
 /// What the sector calculator is told.
 struct SectorInput {

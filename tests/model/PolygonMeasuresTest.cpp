@@ -91,14 +91,4 @@ TEST(SectorMeasures, TellsTheFirstOfItsRefusals)
     EXPECT_EQ(nullptr, SectorRefusal({100, 360, 2}, kEnglish));
 }
 
-TEST(SectorMeasures, TheRowThatWorksIsTheAngleInGermanAlone)
-{
-    EXPECT_STREQ("Sagitta", SectorTypeNames(kEnglish)[kSectorAngleType]);
-    EXPECT_STREQ("Winkel", SectorTypeNames(kGerman)[kSectorAngleType]);
-    EXPECT_STREQ("Angle", SectorTypeNames(kEnglish)[0]);
-    EXPECT_STREQ("Cutting Length", SectorTypeNames(kEnglish)[1]);
-    EXPECT_STREQ("Pfeiltiefe", SectorTypeNames(kGerman)[0]);
-    EXPECT_STREQ("Schnittlänge"_cp1252, SectorTypeNames(kGerman)[1]);
-}
-
 } // namespace

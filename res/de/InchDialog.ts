@@ -1,0 +1,8 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+ <name>InchDialog</name>
+ <message><source>Inch/mm Calculator</source><translation>Zoll/mm Rechner</translation></message>
+</context>
+</TS>

@@ -1,0 +1,30 @@
+#include "pages/ArtificialStarDialog.h"
+
+#include "document/OrrevaDoc.h"
+#include "views/QtText.h"
+
+#include "ui_ArtificialStarDialog.h"
+
+CArtificialStarDialog::CArtificialStarDialog(COrrevaDoc& document, QWidget* parent)
+    : QDialog(parent), ui(std::make_unique<Ui::ArtificialStarDialog>()), texts(*document.active_record)
+{
+    ui->setupUi(this);
+    ui->precision->setText(ToQString(texts.Precision()));
+    ui->errorDistance->setText(ToQString(texts.DistanceByError()));
+    ui->starDiameter->setText(ToQString(texts.StarDiameter()));
+    ui->resolutionDistance->setPlainText(ToQString(texts.DistanceByResolution()));
+    connect(ui->precision, &QLineEdit::textChanged, this, &CArtificialStarDialog::OnChangePrecision);
+    connect(ui->starDiameter, &QLineEdit::textChanged, this, &CArtificialStarDialog::OnChangeStarDiameter);
+}
+
+CArtificialStarDialog::~CArtificialStarDialog() = default;
+
+void CArtificialStarDialog::OnChangePrecision(const QString& text)
+{
+    ui->errorDistance->setText(ToQString(texts.TypePrecision(FromQString(text).c_str())));
+}
+
+void CArtificialStarDialog::OnChangeStarDiameter(const QString& text)
+{
+    ui->resolutionDistance->setPlainText(ToQString(texts.TypeStarDiameter(FromQString(text).c_str())));
+}

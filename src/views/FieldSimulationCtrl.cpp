@@ -1,0 +1,29 @@
+#include "views/FieldSimulationCtrl.h"
+
+#include "drawing/FieldPicture.h"
+#include "views/PainterSurface.h"
+
+#include <QPainter>
+
+#include <cstdio>
+
+namespace {
+
+void WriteDot() { std::fputc('.', stderr); }
+
+} // namespace
+
+CFieldSimulationCtrl::CFieldSimulationCtrl(QWidget* parent) : QWidget(parent)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void CFieldSimulationCtrl::paintEvent(QPaintEvent*)
+{
+    if (telescope == nullptr) {
+        return;
+    }
+    QPainter painter(this);
+    PainterSurface surface(painter, width(), height());
+    DrawFieldPicture(surface, simulation.Table(*telescope, WriteDot));
+}
