@@ -3,8 +3,6 @@
 #include "lib/CharTools.h"
 #include "lib/ErrCode.h"
 
-#include <cstring>
-
 namespace {
 
 const char* SkipWhite(const char* psz)
@@ -15,23 +13,32 @@ const char* SkipWhite(const char* psz)
     return psz;
 }
 
+const char* SkipLineComment(const char* psz)
+{
+    while (*psz != 0 && *psz != '\r' && *psz != '\n') {
+        ++psz;
+    }
+    return psz;
+}
+
+/// `psz` stands behind the opening of the comment, so that the star of "/*/" does not serve twice.
+const char* SkipClosedComment(const char* psz)
+{
+    for (; *psz != 0; ++psz) {
+        if (psz[0] == '*' && psz[1] == '/') {
+            return psz + 2;
+        }
+    }
+    throw ErrCode::OpenComment;
+}
+
 /// Pointer past the comment that begins here; `psz` itself when none does.
 const char* SkipComment(const char* psz)
 {
-    if (psz[0] != '/') {
-        return psz;
+    if (psz[0] == '/' && psz[1] == '/') {
+        return SkipLineComment(psz);
     }
-    if (psz[1] == '/') {
-        return psz + std::strcspn(psz, "\r\n");
-    }
-    if (psz[1] != '*') {
-        return psz;
-    }
-    const char* const pszClose = std::strstr(psz + 2, "*/");
-    if (pszClose == nullptr) {
-        throw ErrCode::OpenComment;
-    }
-    return pszClose + 2;
+    return psz[0] == '/' && psz[1] == '*' ? SkipClosedComment(psz + 2) : psz;
 }
 
 struct Operator {
