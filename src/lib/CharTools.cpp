@@ -45,8 +45,7 @@ const char* SkipSource(const char* psz, bool* pbOpen)
 {
     bool open = false;
     const char* p = psz;
-    for (const char* start = nullptr; p != start;) {
-        start = p;
+    for (;;) {
         p = SkipWhile(p, [](char c) { return c >= 1 && c <= ' '; });
         if (StartsWith("//", p) != nullptr) {
             p += std::strcspn(p, "\r\n");
@@ -54,6 +53,8 @@ const char* SkipSource(const char* psz, bool* pbOpen)
             const char* const end = FindText("*/", p + 2);
             open = end == nullptr;
             p = open ? p + std::strlen(p) : end + 2;
+        } else {
+            break;
         }
     }
     if (pbOpen != nullptr) {
