@@ -93,10 +93,15 @@ void AppFixture::Type(const QWidget& parent, int controlId, const QString& text)
 {
     auto* const control = FindControl<QWidget>(&parent, controlId);
     ASSERT_NE(nullptr, control) << controlId;
-    control->setFocus();
-    QTest::keyClick(control, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(control, Qt::Key_Delete);
-    QTest::keyClicks(control, text);
+    TypeOver(*control, text);
+}
+
+void AppFixture::TypeOver(QWidget& field, const QString& text)
+{
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&field, Qt::Key_Delete);
+    QTest::keyClicks(&field, text);
 }
 
 QString AppFixture::Text(const QWidget& parent, int controlId)

@@ -43,8 +43,21 @@ protected:
         });
     }
 
+    /// Chooses a command and runs `act` on the dialog that it opens; closes it then.
+    template <typename Dialog = QDialog>
+    void InDialogOf(int commandId, std::function<void(Dialog&)> act)
+    {
+        InNextDialog<Dialog>([&act](Dialog& dialog) {
+            act(dialog);
+            dialog.close();
+        });
+        Choose(commandId);
+    }
+
     static void Click(const QWidget& parent, int controlId);
     static void Type(const QWidget& parent, int controlId, const QString& text);
+    /// Types over what stands in a field.
+    static void TypeOver(QWidget& field, const QString& text);
     static QString Text(const QWidget& parent, int controlId);
 
     TemporaryFolder folder;
