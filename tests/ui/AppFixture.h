@@ -17,6 +17,7 @@
 #include <QUrl>
 
 #include <functional>
+#include <type_traits>
 
 /// The whole program, started in a language with an empty profile, in a folder of its own. Help pages are not
 /// opened but noted.
@@ -45,7 +46,7 @@ protected:
 
     /// Chooses a command and runs `act` on the dialog that it opens; closes it then.
     template <typename Dialog = QDialog>
-    void InDialogOf(int commandId, std::function<void(Dialog&)> act)
+    void InDialogOf(int commandId, std::type_identity_t<std::function<void(Dialog&)>> act)
     {
         InNextDialog<Dialog>([&act](Dialog& dialog) {
             act(dialog);

@@ -1,13 +1,12 @@
 #include "ui/AppFixture.h"
 #include "ui/PaintCounter.h"
+#include "ui/SheetHelpers.h"
 
 #include "document/Commands.h"
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
 
 #include <QGroupBox>
-#include <QLabel>
-#include <QPushButton>
 
 namespace {
 
@@ -36,13 +35,7 @@ TEST_P(StarDialog, OpensInGermanFromTheRecord)
         const char* const kLabels[] = {"Genauigkeit\n(Lambda/x)", "Mindestabstand",
                                        "Durchmesser des Sterns (mm)", "Mindestabstand"};
         for (int i = 0; i < 4; ++i) {
-            const auto labels = dialog.findChildren<QLabel*>();
-            const auto label = std::find_if(labels.begin(), labels.end(), [i](const QLabel* candidate) {
-                return candidate->buddy() != nullptr &&
-                       candidate->buddy()->property(kControlId).toInt() == 1000 + i;
-            });
-            ASSERT_NE(labels.end(), label) << i;
-            EXPECT_EQ(kLabels[i], (*label)->text());
+            EXPECT_EQ(kLabels[i], LabelOf(dialog, 1000 + i));
         }
         EXPECT_EQ("20.00", Text(dialog, 1000));
         EXPECT_EQ("73.87m", Text(dialog, 1001));
