@@ -6,6 +6,8 @@
 #include "document/OrrevaDoc.h"
 #include "pages/QuickNewDialog.h"
 #include "pages/RaytracingSettingsDialog.h"
+#include "views/LeftView.h"
+#include "views/OrrevaView.h"
 #include "views/QtText.h"
 
 #include <QApplication>
@@ -40,6 +42,26 @@ QStringList NameFilters(const char* pipes)
     }
     return filters;
 }
+
+/// Keeps the views from painting while it lives.
+class FrozenViews {
+public:
+    explicit FrozenViews(CMainFrame* mainFrame) : frame(mainFrame) { Freeze(true); }
+    ~FrozenViews() { Freeze(false); }
+    FrozenViews(const FrozenViews&) = delete;
+    FrozenViews& operator=(const FrozenViews&) = delete;
+
+private:
+    void Freeze(bool frozen) const
+    {
+        if (frame != nullptr) {
+            frame->LeftView().setUpdatesEnabled(!frozen);
+            frame->RightView().setUpdatesEnabled(!frozen);
+        }
+    }
+
+    CMainFrame* frame;
+};
 
 } // namespace
 
@@ -94,6 +116,8 @@ std::string CQtHost::AskPath(const FileDialog& mask)
 
 bool CQtHost::AskQuickNew(QuickNewTexts& texts)
 {
+    // The record is reset and waits for its two numbers: a pane that read it now would fix its defaults.
+    const FrozenViews frozen(frame);
     CQuickNewDialog dialog(texts, ActiveWindow());
     if (dialog.exec() != QDialog::Accepted) {
         return false;
@@ -139,4 +163,21 @@ void CQtHost::FatalAppExit(const char* text)
 {
     std::fprintf(stderr, "%s\n", text);
     std::_Exit(EXIT_FAILURE);
+}
+
+void CQtHost::ShowBox(const char* title, const char* text, bool bStop)
+{
+    Box(bStop ? QMessageBox::Critical : QMessageBox::Information, ToQString(title), ToQString(text),
+        QMessageBox::Ok);
+}
+
+bool CQtHost::ChooseFolder(const char* title, const char* root, LibString& target)
+{
+    const QString start = root != nullptr ? QFile::decodeName(root) : QString();
+    const QString folder = QFileDialog::getExistingDirectory(ActiveWindow(), ToQString(title), start);
+    if (folder.isEmpty()) {
+        return false;
+    }
+    target = QFile::encodeName(folder).constData();
+    return true;
 }

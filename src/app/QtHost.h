@@ -3,7 +3,6 @@
 #include "document/DocumentHost.h"
 #include "lib/Assertion.h"
 
-
 class CMainFrame;
 class COrrevaDoc;
 
@@ -30,6 +29,8 @@ public:
     void CloseMainWindow() override;
     void BreakIntoDebugger() override;
     void FatalAppExit(const char* text) override;
+    void ShowBox(const char* title, const char* text, bool bStop) override;
+    bool ChooseFolder(const char* title, const char* root, LibString& target) override;
 
 private:
     CMainFrame* frame = nullptr;

@@ -48,11 +48,14 @@ const char* SkipSource(const char* psz, bool* pbOpen)
     for (;;) {
         p = SkipWhile(p, [](char c) { return c >= 1 && c <= ' '; });
         if (StartsWith("//", p) != nullptr) {
-            p += std::strcspn(p, "\r\n");
+            p = SkipWhile(p, [](char c) { return c != 0 && c != '\r' && c != '\n'; });
         } else if (StartsWith("/*", p) != nullptr) {
-            const char* const end = FindText("*/", p + 2);
-            open = end == nullptr;
-            p = open ? p + std::strlen(p) : end + 2;
+            // Byte by byte: a library search may measure all the rest of the text first.
+            for (p += 2; *p != 0 && StartsWith("*/", p) == nullptr;) {
+                ++p;
+            }
+            open = *p == 0;
+            p += open ? 0 : 2;
         } else {
             break;
         }

@@ -3,8 +3,6 @@
 #include "lib/CharTools.h"
 #include "lib/ErrCode.h"
 
-#include <cstring>
-
 namespace {
 
 struct Operator {

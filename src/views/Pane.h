@@ -25,6 +25,10 @@ signals:
 
 protected:
     bool event(QEvent* event) override;
+    // A pane looks the same with and without the focus. The toolkit would repaint it, and a repaint reads the
+    // record, which a dialog that has just taken the focus may not have filled yet.
+    void focusInEvent(QFocusEvent*) override {}
+    void focusOutEvent(QFocusEvent*) override {}
 
     COrrevaDoc& document;
 };

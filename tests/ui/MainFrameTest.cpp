@@ -226,6 +226,25 @@ TEST_F(MainFrame, QuickNewByKeysMakesATelescope)
     EXPECT_EQ("noname.orreva.xml - Orreva", app->Frame().windowTitle());
 }
 
+TEST_F(MainFrame, PanesDoNotReadTheRecordWhileQuickNewIsOpen)
+{
+    MakeTelescope();
+    app->Document().main_record.SetModified(0);
+    InNextDialog<QDialog>([this](QDialog& dialog) {
+        app->Frame().LeftView().setFocus();
+        app->Frame().resize(1100, 700);
+        app->Frame().UpdateAllViews();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(HUGE_VAL, app->Document().main_record.inside_diameter_hat);
+        dialog.findChild<QLineEdit*>("aperture")->setText("114");
+        dialog.findChild<QLineEdit*>("focalLength")->setText("900");
+        dialog.accept();
+    });
+    Choose(32771);
+    EXPECT_DOUBLE_EQ(150.0, app->Document().main_record.GetInsideDiameterHat()) << "114 + 36, not 250 + 36";
+    EXPECT_TRUE(Shows(app->Frame().RightView(), kGreen)) << "and paint again afterwards";
+}
+
 TEST_F(MainFrameGerman, QuickNewIsGerman)
 {
     InNextDialog<QDialog>([](QDialog& dialog) {
