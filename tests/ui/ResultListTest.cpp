@@ -20,7 +20,7 @@ TEST(ResultList, InsertsEachRowAtTheTop)
     EXPECT_EQ("second", list.Cell(1, 0));
     EXPECT_EQ("first", list.Cell(2, 0));
     EXPECT_EQ(QString::fromUtf8("ö"), list.Cell(0, 1));
-    EXPECT_EQ("Eigenschaft", list.model()->headerData(0, Qt::Horizontal).toString());
+    EXPECT_EQ("Eigenschaft", list.QTreeView::model()->headerData(0, Qt::Horizontal).toString());
     EXPECT_EQ(280, list.header()->sectionSize(0));
     EXPECT_EQ(QHeaderView::Interactive, list.header()->sectionResizeMode(0));
     list.SetRows({});
