@@ -72,8 +72,9 @@ bool COrrevaApp::InitInstance(const QStringList& arguments)
 void COrrevaApp::ChooseLanguage()
 {
     QSettings profile = Profile();
-    const int language = profile.value(kLanguageEntry, kNoLanguage).toInt();
-    if (language == kEnglish || language == kGerman) {
+    bool isNumber = false;
+    const int language = profile.value(kLanguageEntry, kNoLanguage).toInt(&isNumber);
+    if (isNumber && (language == kEnglish || language == kGerman)) {
         g_nLanguage = language;
     } else {
         g_nLanguage = QLocale::system().language() == QLocale::German ? kGerman : kEnglish;

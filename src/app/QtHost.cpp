@@ -104,7 +104,8 @@ std::string CQtHost::AskPath(const FileDialog& mask)
 {
     QFileDialog dialog(ActiveWindow());
     dialog.setAcceptMode(mask.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(mask.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    // A name that is typed and does not exist is the document's to tell.
+    dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilters(NameFilters(mask.filter));
     dialog.setDefaultSuffix(QString::fromStdString(FilterEnding(mask)));
     dialog.selectFile(mask.file_name);

@@ -143,6 +143,36 @@ double NumberOption(const Words& words, const char* option, double otherwise)
     return value ? TextToDouble(value->c_str()) : otherwise;
 }
 
+/// The options that one picture has and no other.
+struct PictureOption {
+    const char* option;
+    std::string_view picture;
+    std::string_view other = {};
+};
+
+constexpr PictureOption kPictureOptions[] = {
+    {"--mode", "section"},         {"--pointer", "section"},  {"--zoom", "section"},
+    {"--scroll", "section"},       {"--extended", "section"}, {"--no-offset", "section"},
+    {"--box-and-cage", "section"}, {"--seed", "ronchi"},      {"--type", "polygon", "sector"},
+    {"--thickness", "polygon"},    {"--value", "sector"},
+};
+
+void RefuseOptionsOfOthers(const Words& words, std::string_view picture)
+{
+    for (const PictureOption& own : kPictureOptions) {
+        if (words.Has(own.option) && own.picture != picture && own.other != picture) {
+            UsageError("the picture " + std::string(picture) + " does not take", own.option);
+        }
+    }
+}
+
+/// The words without an option; for the calculators' pictures the diameter is theirs and no telescope's.
+Words Without(Words words, std::string_view option)
+{
+    std::erase_if(words.options, [option](const auto& given) { return given.first == option; });
+    return words;
+}
+
 DrawOptions DrawOptionsOf(const Words& words, const std::string& picture)
 {
     DrawOptions options = OpeningOptions(picture);
@@ -184,14 +214,16 @@ int Draw(const Words& words)
     if (picture == nullptr) {
         UsageError("unknown picture", name);
     }
+    RefuseOptionsOfOthers(words, name);
     const DrawOptions options = DrawOptionsOf(words, name);
+    const bool calculator = name == "polygon" || name == "sector";
     const std::string path = OutputPath(words);
     if (!IsPictureFile(path)) {
         UsageError("a picture does not go into", path);
     }
     const auto file = FileWord(words, 0);
     Desk desk;
-    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+    if (!MakeTelescope(calculator ? Without(words, "--diameter") : words, file, desk.host, desk.document)) {
         return kFailed;
     }
     const COrrevaDoc& document = desk.document;

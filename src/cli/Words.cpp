@@ -135,6 +135,9 @@ Words TakeApart(const std::vector<std::string>& arguments)
                 UsageError("a value is missing behind", word);
             }
             words.options.emplace_back(word, arguments[++i]);
+            if (word == "-o" && arguments[i].empty()) {
+                UsageError("a file name is missing behind", word);
+            }
         } else if (belongs) {
             words.options.emplace_back(word, "");
         } else if (!optionsEnded && word == "--") {
@@ -145,7 +148,9 @@ Words TakeApart(const std::vector<std::string>& arguments)
             words.plain.push_back(word);
         }
     }
-    if (verb == std::end(kVerbs)) {
+    words.help = words.Has("--help");
+    words.version = words.Has("--version");
+    if (!hasVerb && !words.help && !words.version) {
         UsageError("a verb is missing; see", "--help");
     }
     return words;
@@ -188,8 +193,7 @@ std::pair<double, double> NumberPair(const std::string& option, const std::strin
     const auto number = [&](const std::string& text) {
         double read = 0.0;
         const char* const end = text.data() + text.size();
-        const char* const begin = text.data() + (text.starts_with('+') ? 1 : 0);
-        const auto result = std::from_chars(begin, end, read);
+        const auto result = std::from_chars(text.data(), end, read);
         if (result.ec != std::errc() || result.ptr != end || !std::isfinite(read)) {
             UsageError(option + " does not take", value);
         }

@@ -24,8 +24,13 @@ struct Trial {
     BarParam& entry;
 };
 
+/// Nothing without a telescope: a trial on a cleared record would mark it as changed, and there is no file to
+/// save it to.
 std::optional<Trial> CurrentTrial(COrrevaDoc& document)
 {
+    if (!document.HasFile()) {
+        return std::nullopt;
+    }
     for (std::size_t i = 0; i < std::size(kParameters); ++i) {
         if (document.bar_params[i].selected != 0) {
             return Trial{kParameters[i], document.bar_params[i]};
@@ -74,7 +79,8 @@ std::optional<SliderState> SelectBarParameter(COrrevaDoc& document, std::int32_t
         trial->entry.selected = 0;
     }
     std::optional<SliderState> state;
-    if (selection >= 0 && static_cast<std::size_t>(selection) < std::size(kParameters)) {
+    const bool named = selection >= 0 && static_cast<std::size_t>(selection) < std::size(kParameters);
+    if (named && document.HasFile()) {
         const auto index = static_cast<std::size_t>(selection);
         const double v = Value(document, kParameters[index]);
         document.bar_params[index] = {1, v};

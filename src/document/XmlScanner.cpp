@@ -4,48 +4,54 @@
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
+#include <new>
+#include <utility>
 
 namespace {
 
 constexpr std::size_t kMostComponents = 32;
 constexpr std::size_t kNotFound = std::string::npos;
-constexpr std::size_t kLargestFile = std::numeric_limits<std::int32_t>::max();
 
 std::size_t Bucket(char c) { return static_cast<unsigned char>(c); }
 
-std::string WithPlainLineEnds(std::string_view text)
+/// Cuts the text at a zero byte and takes the CR of each CR LF away, in its own place.
+void MakePlainText(std::string& text)
 {
-    std::string plain;
-    plain.reserve(text.size());
+    text.resize(std::min(text.find('\0'), text.size()));
+    std::size_t kept = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\r' || i + 1 == text.size() || text[i + 1] != '\n') {
-            plain += text[i];
+        if (text[i] != '\r' || text.c_str()[i + 1] != '\n') {
+            text[kept++] = text[i];
         }
     }
-    return plain;
+    text.resize(kept);
 }
 
 } // namespace
 
 XmlScanner::XmlScanner(const char* pszPath)
 {
-    if (const auto bytes = ReadFileBytes(pszPath, kLargestFile)) {
-        Take(*bytes);
+    try {
+        if (auto bytes = ReadFileBytes(pszPath)) {
+            Take(std::move(*bytes));
+        }
+    } catch (const std::bad_alloc&) {
+        *this = XmlScanner(); // a text that does not fit the memory is none
     }
 }
 
 XmlScanner XmlScanner::FromText(std::string_view text)
 {
     XmlScanner scanner;
-    scanner.Take(text);
+    scanner.Take(std::string(text));
     return scanner;
 }
 
-void XmlScanner::Take(std::string_view text)
+void XmlScanner::Take(std::string text)
 {
+    MakePlainText(text);
     m_hasText = true;
-    m_text = WithPlainLineEnds(text.substr(0, text.find('\0')));
+    m_text = std::move(text);
     for (std::size_t at = m_text.find('<'); at != kNotFound; at = m_text.find('<', at + 1)) {
         const char next = m_text.c_str()[at + 1];
         if (next != '<') { // begins no name

@@ -16,8 +16,8 @@ class XmlScanner {
 public:
     XmlScanner() = default;
 
-    /// Reads a file as text: CR LF is one line end, a zero byte ends the text. A file that cannot be read
-    /// leaves the scanner without a text.
+    /// Reads a file as text: CR LF is one line end, a zero byte ends the text. A file that cannot be read,
+    /// or does not fit the memory, leaves the scanner without a text.
     explicit XmlScanner(const char* pszPath);
 
     /// A scanner over bytes in memory.
@@ -30,7 +30,7 @@ public:
     const char* GetValue(const char* key, char* buffer, std::size_t nBufferSize) const;
 
 private:
-    void Take(std::string_view text);
+    void Take(std::string text);
     std::size_t FindComponent(std::string_view component, std::size_t from) const;
     std::size_t SearchComponent(std::string_view component, std::size_t from) const;
     bool IsSwallowed(std::size_t bracket, std::string_view component, std::size_t from) const;

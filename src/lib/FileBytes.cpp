@@ -79,7 +79,7 @@ bool TakeRights(int fd, const struct stat* old)
 std::optional<std::string> ReadFileBytes(const char* pszPath, std::size_t limit)
 {
     std::error_code error;
-    if (fs::is_directory(pszPath, error)) {
+    if (!fs::is_regular_file(pszPath, error)) {
         return std::nullopt;
     }
     const File file(std::fopen(pszPath, "rb"));

@@ -25,26 +25,27 @@ COrrevaView::COrrevaView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, parent)
 
 bool COrrevaView::OnCommand(std::int32_t id) { return id == command_id::kShowWithoutOffset; }
 
-void COrrevaView::OnDraw(Surface& surface)
+void COrrevaView::OnDraw(Surface& surface, SectionZoom& view)
 {
     g_pCurrentDocument = &document;
     // The pointer is read at each drawing; neither zoom nor scroll is taken off it.
     const Pixel pointer = At(mapFromGlobal(QCursor::pos()));
-    PaintSection(surface, zoom, *document.active_record, document, pointer, g_nLanguage);
+    PaintSection(surface, view, *document.active_record, document, pointer, g_nLanguage);
 }
 
 void COrrevaView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     PainterSurface surface(painter, width(), height());
-    OnDraw(surface);
+    OnDraw(surface, zoom);
 }
 
 void COrrevaView::OnPrint(QPrinter& printer)
 {
     QPainter painter(&printer);
     PainterSurface surface(painter, printer.width(), printer.height());
-    OnDraw(surface);
+    SectionZoom onPaper = zoom; // the paper's size is none of the screen's business
+    OnDraw(surface, onPaper);
 }
 
 void COrrevaView::mouseMoveEvent(QMouseEvent*)

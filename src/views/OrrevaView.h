@@ -26,7 +26,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
-    void OnDraw(Surface& surface);
+    void OnDraw(Surface& surface, SectionZoom& view);
 
     SectionZoom zoom;
 };

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <sstream>
 
 namespace {
@@ -69,13 +70,14 @@ TEST_F(CommandLine, WhatIsNotUnderstoodEndsWithTwoAndNamesTheWord)
         {"import", "import"},
         {"export", "export"},
         {"export zemax", "zemax"},
-        {"calc --page primary 1", nullptr},
+        {"rays --mode parallel --pointer +-1,2", "+-1,2"},
+        {"draw --picture summary --size 10x10 --zoom 2 -o x.png", "--zoom"},
+        {"draw --picture polygon --size 10x10 --value 2 -o x.png", "--value"},
+        {"save -o ''", "-o"},
+        {"frob --help", "frob"},
     };
     for (const auto& row : rows) {
-        const Run run = Cli(row.words);
-        if (row.word == nullptr) {
-            continue; // an unknown option of calc is an expression
-        }
+        const CliRun run = Cli(row.words);
         EXPECT_EQ(2, run.status) << row.words;
         EXPECT_EQ("", run.out) << row.words;
         EXPECT_EQ(1u, Lines(run.err).size()) << row.words << run.err;
@@ -86,11 +88,13 @@ TEST_F(CommandLine, WhatIsNotUnderstoodEndsWithTwoAndNamesTheWord)
 TEST_F(CommandLine, HelpAndVersionStandAloneOrBehindAVerb)
 {
     for (const char* const words : {"--help", "report --help", "--help draw"}) {
-        const Run run = Cli(words);
+        const CliRun run = Cli(words);
         EXPECT_EQ(0, run.status) << words;
         EXPECT_NE(std::string::npos, run.out.find("orreva-cli report")) << words;
     }
-    const Run version = Cli("--version");
+    EXPECT_TRUE(HasLine(Cli("report --page summary --title --help").out, "--help")) << "a value is no option";
+    EXPECT_NE(0, Cli("calc -- --version").status) << "nor is an expression";
+    const CliRun version = Cli("--version");
     EXPECT_EQ(0, version.status);
     EXPECT_EQ("orreva-cli 0.3.1.34\n", version.out);
 }
@@ -101,7 +105,7 @@ TEST_F(CommandLine, AMissingFileEndsWithOneAndNoOutput)
     for (const char* const words :
          {"report missing.orreva.xml", "save missing.orreva.xml -o out", "save folder -o out",
           "rays missing --mode focal --pointer 1,2", "import missing -o out"}) {
-        const Run run = Cli(words);
+        const CliRun run = Cli(words);
         EXPECT_EQ(1, run.status) << words;
         EXPECT_EQ("", run.out) << words;
         EXPECT_NE("", run.err) << words;
@@ -114,7 +118,7 @@ TEST_F(CommandLine, AFileThatCannotBeWrittenEndsWithOne)
     for (const char* const words :
          {"save -o missing/x", "report -o missing/x", "draw --picture summary --size 10x10 -o missing/x.png",
           "save -o /dev/full"}) {
-        const Run run = Cli(words);
+        const CliRun run = Cli(words);
         EXPECT_EQ(1, run.status) << words;
         EXPECT_NE("", run.err) << words;
     }
@@ -130,7 +134,7 @@ TEST_F(CommandLine, OptionsMayStandBeforeOrBehindTheOtherWords)
 
 TEST_F(CommandLine, SummaryOfTheProposedTelescope)
 {
-    const Run run = Cli("report --page summary");
+    const CliRun run = Cli("report --page summary");
     EXPECT_EQ(0, run.status);
     EXPECT_EQ("", run.err);
     const std::vector<std::string> lines = Lines(run.out);
@@ -150,8 +154,8 @@ TEST_F(CommandLine, SummaryOfTheProposedTelescope)
 
 TEST_F(CommandLine, FieldsAreReadAsTheirFieldsDo)
 {
-    const Run run = Cli("report --page summary --diameter 200,9 --focal-length 1200.5 --title 'Töpfers Ω' "
-                        "--set mirror/thickness=33,5");
+    const CliRun run = Cli("report --page summary --diameter 200,9 --focal-length 1200.5 --title 'Töpfers Ω' "
+                           "--set mirror/thickness=33,5");
     EXPECT_TRUE(HasLine(run.out, "Töpfers ?")) << "a character that the code page lacks";
     EXPECT_TRUE(HasLine(run.out, "Diameter:\t200.0 mm (7.87\")")) << "a comma ends the number";
     EXPECT_TRUE(HasLine(run.out, "Focal Length:\t1200.5 mm (47.26\")"));
@@ -186,7 +190,7 @@ TEST_F(CommandLine, SettingsGoThroughTheSettersInTheirOrderAndRecalculateOnce)
 
 TEST_F(CommandLine, SaveWritesTheDesignFilesOwnBytes)
 {
-    const Run run = Cli("save --title 'Größe' -o x.orreva.xml");
+    const CliRun run = Cli("save --title 'Größe' -o x.orreva.xml");
     EXPECT_EQ(0, run.status);
     EXPECT_EQ("", run.out);
     const std::string bytes = folder.Read("x.orreva.xml");
@@ -206,7 +210,7 @@ TEST_F(CommandLine, ASavedTelescopeOpensWithItsDefaults)
 
 TEST_F(CommandLine, RaysOfTheParallelSetEndWithTheStatusLine)
 {
-    const Run run = Cli("rays --mode parallel --pointer 100,65");
+    const CliRun run = Cli("rays --mode parallel --pointer 100,65");
     EXPECT_EQ(0, run.status);
     const std::vector<std::string> lines = Lines(run.out);
     ASSERT_LT(40u, lines.size());
@@ -225,7 +229,7 @@ TEST_F(CommandLine, RaysOfTheParallelSetEndWithTheStatusLine)
 
 TEST_F(CommandLine, ATubeThatMustNotBeTracedGivesTheStatusLineAlone)
 {
-    const Run run = Cli("rays --mode parallel --pointer 100,65 --set tube/inside_diameter_hat=-100");
+    const CliRun run = Cli("rays --mode parallel --pointer 100,65 --set tube/inside_diameter_hat=-100");
     EXPECT_EQ(0, run.status);
     EXPECT_EQ(1u, Lines(run.out).size()) << run.out;
     EXPECT_EQ(0u, run.out.find("Angle: "));
@@ -240,10 +244,28 @@ TEST_F(CommandLine, PicturesComeInThreeForms)
     for (const char* const picture :
          {"section", "summary", "tube-panel", "mirror-panel", "field", "ronchi", "polygon", "sector"}) {
         for (const auto& row : rows) {
-            const Run run = Cli(std::string("draw --size 640x700 --picture ") + picture + " -o " + row.name);
+            const CliRun run =
+                Cli(std::string("draw --size 640x700 --picture ") + picture + " -o " + row.name);
             EXPECT_EQ(0, run.status) << picture << run.err;
             EXPECT_EQ(0u, folder.Read(row.name).find(row.start)) << picture;
         }
+    }
+}
+
+TEST_F(CommandLine, TheDiameterOfAPolygonIsNoTelescopes)
+{
+    Cli("save -o a");
+    EXPECT_EQ(0, Cli("draw a --picture polygon --diameter 300 --size 300x300 -o a.png").status);
+    EXPECT_EQ(2, Cli("draw a --picture section --diameter 300 --size 300x300 -o b.png").status);
+}
+
+TEST_F(CommandLine, APipeIsNoFile)
+{
+    ASSERT_EQ(0, std::system("mkfifo pipe"));
+    for (const char* const words : {"report pipe", "import pipe", "report /dev/zero", "save /dev/stdin"}) {
+        const CliRun run = Cli(words);
+        EXPECT_EQ(1, run.status) << words;
+        EXPECT_EQ("", run.out) << words;
     }
 }
 
@@ -258,7 +280,7 @@ TEST_F(CommandLine, EqualSeedsDrawEqualPatterns)
 
 TEST_F(CommandLine, CalcAnswersItsWords)
 {
-    const Run run = Cli("calc 1+2*3 -- -5+3");
+    const CliRun run = Cli("calc 1+2*3 -- -5+3");
     EXPECT_EQ(0, run.status);
     EXPECT_EQ("7.000000\n-2.000000\n", run.out);
     EXPECT_EQ("-2.000000\n", Cli("calc -5+3").out) << "a minus sign does not make it an option";
@@ -268,7 +290,7 @@ TEST_F(CommandLine, CalcAnswersItsWords)
 
 TEST_F(CommandLine, CalcAnswersEachLineOfStandardInput)
 {
-    const Run run = Cli("calc", "1+1\n\n2*3");
+    const CliRun run = Cli("calc", "1+1\n\n2*3");
     const std::vector<std::string> lines = Lines(run.out);
     ASSERT_EQ(3u, lines.size());
     EXPECT_EQ("2.000000", lines[0]);
@@ -280,7 +302,7 @@ TEST_F(CommandLine, CalcTakes1023Characters)
 {
     const std::string longest = std::string(1022, ' ') + "1";
     EXPECT_EQ("1.000000\n", Cli("calc", longest).out);
-    const Run run = Cli("calc", " " + longest + "\n2");
+    const CliRun run = Cli("calc", " " + longest + "\n2");
     EXPECT_EQ("Expression of more than 1023 characters.\n2.000000\n", run.out);
     EXPECT_EQ(1, run.status);
 }
@@ -327,7 +349,7 @@ TEST_F(CommandLine, FoucaultTakesTheTextsOfItsFields)
 
 TEST_F(CommandLine, FieldReportWritesNoDots)
 {
-    const Run run = Cli("report --page field");
+    const CliRun run = Cli("report --page field");
     EXPECT_EQ("", run.err);
     EXPECT_EQ(251u, Lines(run.out).size());
     EXPECT_EQ(0u, Lines(run.out)[1].find("0.006\t"));

@@ -17,7 +17,7 @@ std::string Take(const std::filesystem::path& path)
 
 } // namespace
 
-Run Cli(const std::string& words, const std::string& input)
+CliRun Cli(const std::string& words, const std::string& input)
 {
     std::string folder = (std::filesystem::temp_directory_path() / "orreva-cli-XXXXXX").string();
     if (mkdtemp(folder.data()) == nullptr) {
@@ -27,7 +27,7 @@ Run Cli(const std::string& words, const std::string& input)
     const std::string line = std::string(ORREVA_CLI) + " " + words + " <" + folder + "/in >" + folder +
                              "/out 2>" + folder + "/err";
     const int ended = std::system(line.c_str());
-    Run run{WIFEXITED(ended) ? WEXITSTATUS(ended) : -1, Take(folder + "/out"), Take(folder + "/err")};
+    CliRun run{WIFEXITED(ended) ? WEXITSTATUS(ended) : -1, Take(folder + "/out"), Take(folder + "/err")};
     std::filesystem::remove_all(folder);
     return run;
 }

@@ -3,11 +3,11 @@
 #include <string>
 
 /// What a run of the companion left.
-struct Run {
+struct CliRun {
     int status;
     std::string out;
     std::string err;
 };
 
 /// Runs orreva-cli with words as a shell takes them, in the current directory; `input` is its standard input.
-Run Cli(const std::string& words, const std::string& input = "");
+CliRun Cli(const std::string& words, const std::string& input = "");

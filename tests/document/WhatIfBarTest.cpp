@@ -134,6 +134,18 @@ TEST_F(WhatIfBar, AcceptKeepsTheTrialAndLeavesThePosition)
     EXPECT_EQ(2000.0, data.focal_length);
 }
 
+TEST_F(WhatIfBar, WithoutATelescopeNothingHappens)
+{
+    SelectBarParameter(doc, 2);
+    data.Clear();
+    EXPECT_FALSE(SelectBarParameter(doc, 0).has_value());
+    SlideBar(doc, 77);
+    EXPECT_FALSE(ResetBar(doc).has_value());
+    EXPECT_FALSE(AcceptBar(doc).has_value());
+    EXPECT_EQ(0, data.IsModified());
+    EXPECT_EQ(HUGE_VAL, data.secondary_diameter);
+}
+
 TEST_F(WhatIfBar, ASmallValue)
 {
     data.SetFocuserSpare(1.9);

@@ -5,9 +5,11 @@
 #include "views/OrrevaView.h"
 
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPrinter>
 #include <QRadioButton>
 #include <QSlider>
 #include <QStatusBar>
@@ -352,6 +354,80 @@ TEST_F(MainFrame, ClosingAsksWithoutCancelAndClosesEitherWay)
     EXPECT_FALSE(folder.Read("noname.orreva.xml").empty());
 }
 
+TEST_F(MainFrame, ClosingWithNoLosesTheChanges)
+{
+    MakeTelescope();
+    InNextDialog<QMessageBox>(
+        [](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton); });
+    EXPECT_TRUE(app->Frame().close());
+    EXPECT_TRUE(folder.Read("noname.orreva.xml").empty());
+    EXPECT_EQ(HUGE_VAL, app->Document().main_record.mirror_diameter);
+}
+
+TEST_F(MainFrame, AcceleratorsGiveTheirCommands)
+{
+    const struct {
+        Qt::Key key;
+        const char* title;
+        Modal modal;
+    } rows[] = {{Qt::Key_N, "New", Modal::TelescopeSheet},
+                {Qt::Key_E, "Telescope Properties", Modal::TelescopeSheet}};
+    QTest::keyClick(&app->Frame(), Qt::Key_E, Qt::ControlModifier); // disabled: no telescope, no dialog
+    MakeTelescope();
+    app->Document().main_record.SetModified(0);
+    for (const auto& row : rows) {
+        InNextDialog<QDialog>([&row](QDialog& dialog) {
+            EXPECT_EQ(row.title, dialog.windowTitle());
+            row.key == Qt::Key_N ? dialog.accept() : dialog.reject();
+        });
+        QTest::keyClick(&app->Frame(), row.key, Qt::ControlModifier);
+    }
+    InNextDialog<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ("File Type Orreva (*.orreva)", dialog.nameFilters().constFirst())
+            << "the old format, not Open";
+        dialog.reject();
+    });
+    QTest::keyClick(&app->Frame(), Qt::Key_O, Qt::ControlModifier);
+    QTest::keyClick(&app->Frame(), Qt::Key_F1, Qt::ShiftModifier);
+    EXPECT_EQ(1u, helpPages.size());
+}
+
+TEST_F(MainFrame, OpenTellsOfAMissingFileAndGoesOn)
+{
+    InNextDialog<QFileDialog>([this](QFileDialog& dialog) {
+        EXPECT_EQ("Orreva Dateien (*.orreva.xml)", dialog.nameFilters().constFirst());
+        InNextDialog<QMessageBox>([](QMessageBox& box) {
+            EXPECT_EQ("Die Datei noname.orreva.xml existiert nicht!", box.text());
+            box.accept();
+        });
+        dialog.selectFile("missing.orreva.xml");
+        static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+    });
+    Choose(32802);
+    EXPECT_FALSE(app->Document().HasFile());
+}
+
+TEST_F(MainFrame, PrintingLeavesTheScreensZoomAlone)
+{
+    MakeTelescope();
+    COrrevaView& view = app->Frame().RightView();
+    QTest::mouseDClick(&view, Qt::LeftButton, {}, QPoint(view.width() - 5, view.height() - 5));
+    const SectionZoom before = view.Zoom();
+    QPrinter printer(QPrinter::ScreenResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName("paper.pdf");
+    view.OnPrint(printer);
+    EXPECT_EQ(before, view.Zoom());
+    EXPECT_EQ(0u, folder.Read("paper.pdf").find("%PDF"));
+    app->Frame().LeftView().OnPrint(printer);
+    EXPECT_EQ(0u, folder.Read("paper.pdf").find("%PDF"));
+}
+
+TEST_F(MainFrame, ANewFrameGivesTheSummaryTwiceTheWidthAskedFor)
+{
+    EXPECT_EQ(520, CLeftView::CreationWidth(260));
+}
+
 TEST_F(MainFrame, ATinyAndAHugeWindowPaint)
 {
     MakeTelescope();
@@ -445,6 +521,20 @@ TEST_F(MainFrameGerman, WhatIfBarButtonsAreGermanAndItsListToo)
     EXPECT_EQ("Brennweite", FindControl<QComboBox>(&app->Frame(), 1026)->itemText(0));
 }
 
+// The command line -----------------------------------------------------------------------------------------
+
+TEST(CommandLineOfTheWindow, AFileArrivesByWayOfTheOldFormat)
+{
+    const TemporaryFolder folder;
+    std::filesystem::copy_file(ORREVA_SOURCE_DIR "/tests/golden/old.orreva", "old.orreva");
+    COrrevaApp app;
+    ASSERT_TRUE(app.InitInstance({"old.orreva"}));
+    EXPECT_TRUE(app.Document().HasFile());
+    EXPECT_STREQ("noname.orreva.xml", app.Document().main_record.file_path);
+    EXPECT_EQ(1, app.Document().main_record.IsModified());
+    app.Document().main_record.SetModified(0);
+}
+
 // Language -------------------------------------------------------------------------------------------------
 
 TEST_F(MainFrameGerman, EnglishComesForNewDialogsAtOnceAndForTheRestLater)
@@ -477,7 +567,7 @@ TEST_F(MainFrame, GermanIsAnnouncedInGerman)
 
 TEST(Language, AnUnknownEntryIsOverwrittenByTheSystemsLanguage)
 {
-    for (const int entry : {2, 99, -1}) {
+    for (const QVariant& entry : {QVariant(2), QVariant(99), QVariant(-1), QVariant("abc"), QVariant("")}) {
         COrrevaApp::Profile().setValue("Settings/Language", entry);
         COrrevaApp app;
         ASSERT_TRUE(app.InitInstance({}));
