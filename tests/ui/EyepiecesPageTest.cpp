@@ -114,7 +114,7 @@ TEST_F(EyepiecesPage, AMillionLinesOpenFast)
         RecordProperty("open_ms", static_cast<int>(opened));
         RecordProperty("choose_ms", static_cast<int>(chosen));
         EXPECT_LT(opened, 10000);
-        EXPECT_LT(chosen, 5000);
+        EXPECT_LT(chosen, 1500);
     });
 }
 
