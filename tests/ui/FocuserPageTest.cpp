@@ -147,18 +147,13 @@ TEST_F(FocuserPage, DoesNotReadAgainWhenItComesToTheFront)
     });
 }
 
-TEST_F(FocuserPageGerman, GroupsAndLabelsAgreeWithTheReports)
+/// The form's labels are those of the reports.
+void CheckLabels(const std::function<std::string(int control)>& labelOf, int language)
 {
-    MakeMeasuredTelescope();
-    OnPage(kFocuser, "cancel", [](CPropertyPage& page) {
-        EXPECT_EQ("Auszug", page.findChild<QGroupBox*>("oazGroup")->title());
-        EXPECT_EQ("Schlitten", page.findChild<QGroupBox*>("oschGroup")->title());
-        const int controls[] = {1016, 1017, 1002, 1052, 1054, 1053};
-        for (std::size_t i = 0; i < kFocuserNumbers; ++i) {
-            EXPECT_EQ(ToQString(kFocuserFields[i].label.In(kGerman)).toStdString(),
-                      LabelOf(page, controls[i]));
-        }
-    });
+    const int controls[] = {1016, 1017, 1002, 1052, 1054, 1053};
+    for (std::size_t i = 0; i < kFocuserNumbers; ++i) {
+        EXPECT_EQ(ToQString(kFocuserFields[i].label.In(language)).toStdString(), labelOf(controls[i]));
+    }
 }
 
 TEST_F(FocuserPage, GroupsAndLabelsAgreeWithTheReports)
@@ -167,11 +162,17 @@ TEST_F(FocuserPage, GroupsAndLabelsAgreeWithTheReports)
     OnPage(kFocuser, "cancel", [](CPropertyPage& page) {
         EXPECT_EQ("Focuser", page.findChild<QGroupBox*>("oazGroup")->title());
         EXPECT_EQ("Sliding Focuser", page.findChild<QGroupBox*>("oschGroup")->title());
-        const int controls[] = {1016, 1017, 1002, 1052, 1054, 1053};
-        for (std::size_t i = 0; i < kFocuserNumbers; ++i) {
-            EXPECT_EQ(ToQString(kFocuserFields[i].label.In(kEnglish)).toStdString(),
-                      LabelOf(page, controls[i]));
-        }
+        CheckLabels([&](int control) { return LabelOf(page, control); }, kEnglish);
+    });
+}
+
+TEST_F(FocuserPageGerman, GroupsAndLabelsAgreeWithTheReports)
+{
+    MakeMeasuredTelescope();
+    OnPage(kFocuser, "cancel", [](CPropertyPage& page) {
+        EXPECT_EQ("Auszug", page.findChild<QGroupBox*>("oazGroup")->title());
+        EXPECT_EQ("Schlitten", page.findChild<QGroupBox*>("oschGroup")->title());
+        CheckLabels([&](int control) { return LabelOf(page, control); }, kGerman);
     });
 }
 
