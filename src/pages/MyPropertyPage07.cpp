@@ -44,6 +44,8 @@ CMyPropertyPage07::CMyPropertyPage07(COrrevaDoc& doc, QWidget* parent)
 {
     ui->setupUi(this);
     BindHelpStrip();
+    // For a list of any length: rows of one height, in the form's kind of drop-down that scrolls; the other
+    // kind measures every row before it opens.
     if (auto* const list = qobject_cast<QListView*>(ui->eyepiece->view())) {
         list->setUniformItemSizes(true);
     }

@@ -38,6 +38,6 @@ protected:
 private:
     void WidenColumns();
 
-    ResultModel* model;
+    ResultModel* rowModel;
     bool sizedByUser = false; ///< a width is no longer ours
 };
