@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -125,9 +126,17 @@ void CPropertySheet::Activate(int index)
         tabs->widget(index)->layout()->addWidget(entry.page);
         connect(entry.page, &CPropertyPage::Modified, this, [this] { apply->setEnabled(true); });
         connect(entry.page, &CPropertyPage::WizardButtons, this, &CPropertySheet::ShowWizardButtons);
+        entry.page->show();
+        GrowTo(sizeHint());
     }
     heading->setText(tabs->tabText(index));
     entry.page->OnSetActive();
+}
+
+/// The sheet becomes as large as its largest page asks for, as far as the screen allows.
+void CPropertySheet::GrowTo(const QSize& wanted)
+{
+    resize(size().expandedTo(wanted.boundedTo(screen()->availableSize())));
 }
 
 void CPropertySheet::Apply()

@@ -103,9 +103,9 @@ private:
     int language = 0;
 };
 
-CResultList::CResultList(QWidget* parent) : QTreeView(parent), model(new ResultModel(this))
+CResultList::CResultList(QWidget* parent) : QTreeView(parent), results(new ResultModel(this))
 {
-    setModel(model);
+    setModel(results);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
@@ -124,7 +124,7 @@ CResultList::CResultList(QWidget* parent) : QTreeView(parent), model(new ResultM
 
 void CResultList::SetColumns(std::span<const ListColumn> columns, int language)
 {
-    model->SetColumns(columns, language);
+    results->SetColumns(columns, language);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         header()->resizeSection(static_cast<int>(i), columns[i].width);
     }
@@ -135,7 +135,6 @@ void CResultList::SetRows(const ListRows& rows)
 {
     SetComputedRows(static_cast<int>(rows.size()),
                     [rows](int i) { return rows[rows.size() - 1 - static_cast<std::size_t>(i)]; });
-    WidenColumns();
 }
 
 /// The widths that columns start with suit most rows; room is made for longer ones, until the user resizes.
@@ -144,7 +143,7 @@ void CResultList::WidenColumns()
     if (sizedByUser) {
         return;
     }
-    for (int column = 0; column < model->columnCount(); ++column) {
+    for (int column = 0; column < results->columnCount(); ++column) {
         header()->resizeSection(column, std::max({columnWidth(column), sizeHintForColumn(column),
                                                   header()->sectionSizeHint(column)}));
     }
@@ -153,12 +152,13 @@ void CResultList::WidenColumns()
 
 void CResultList::SetComputedRows(int count, std::function<ListRow(int)> row)
 {
-    model->SetRows(count, std::move(row));
+    results->SetRows(count, std::move(row));
+    WidenColumns();
 }
 
-int CResultList::RowCount() const { return model->Count(); }
+int CResultList::RowCount() const { return results->Count(); }
 
-QString CResultList::Cell(int row, int column) const { return model->Cell(row, column); }
+QString CResultList::Cell(int row, int column) const { return results->Cell(row, column); }
 
 int CResultList::SelectedRow() const
 {
@@ -173,7 +173,7 @@ void CResultList::CopySelection() const
     for (const QItemSelectionRange& range : selectionModel()->selection()) {
         for (int row = range.top(); row <= range.bottom() && lines.size() < kMostCopiedRows; ++row) {
             QStringList cells;
-            for (int column = 0; column < model->columnCount(); ++column) {
+            for (int column = 0; column < results->columnCount(); ++column) {
                 cells << Cell(row, column);
             }
             lines << cells.join('\t');
