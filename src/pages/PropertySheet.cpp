@@ -3,6 +3,7 @@
 #include "pages/Controls.h"
 #include "pages/Help.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -127,16 +128,21 @@ void CPropertySheet::Activate(int index)
         connect(entry.page, &CPropertyPage::Modified, this, [this] { apply->setEnabled(true); });
         connect(entry.page, &CPropertyPage::WizardButtons, this, &CPropertySheet::ShowWizardButtons);
         entry.page->show();
-        GrowTo(sizeHint());
+        GrowFor(entry.page);
     }
     heading->setText(tabs->tabText(index));
     entry.page->OnSetActive();
 }
 
 /// The sheet becomes as large as its largest page asks for, as far as the screen allows.
-void CPropertySheet::GrowTo(const QSize& wanted)
+void CPropertySheet::GrowFor(QWidget* page)
 {
-    resize(size().expandedTo(wanted.boundedTo(screen()->availableSize())));
+    // What the page asks for goes up from parent to parent by events; it is wanted now.
+    for (QWidget* widget = page; widget != nullptr && widget != parentWidget();
+         widget = widget->parentWidget()) {
+        QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
+    }
+    resize(size().expandedTo(sizeHint().boundedTo(screen()->availableSize())));
 }
 
 void CPropertySheet::Apply()

@@ -20,6 +20,9 @@ constexpr qsizetype kMostCopiedRows = 10000;
 /// user has scrolled to the end of those it has.
 constexpr int kRowsAtOnce = 1000;
 
+/// Rows beyond those in sight that widths are measured by.
+constexpr int kRowsMeasured = 100;
+
 } // namespace
 
 class ResultModel : public QAbstractTableModel {
@@ -114,6 +117,7 @@ CResultList::CResultList(QWidget* parent) : QTreeView(parent), results(new Resul
     setTabKeyNavigation(false);
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
+    header()->setResizeContentsPrecision(kRowsMeasured);
     connect(header(), &QHeaderView::sectionResized, this, [this] { sizedByUser = true; });
 
     auto* const copy = new QAction(tr("Copy"), this);
