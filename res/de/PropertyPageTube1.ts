@@ -3,11 +3,8 @@
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
  <name>PropertyPageTube1</name>
- <message><source>About these pages</source><translation>Über diese Seiten</translation></message>
- <message><source>Help for this page</source><translation>Hilfe zu dieser Seite</translation></message>
  <message><source>Inner Diameter (mm)</source><translation>Innendurchmesser (mm)</translation></message>
- <message><source>Reset to the proposed value</source><translation>Auf den Vorschlag zurücksetzen</translation></message>
- <message><source>Distance Mirror to rear End of Tube (mm)</source><translation>Abstand Spiegel - hinteres Tubusende (mm)</translation></message>
+ <message><source>Distance Mirror to rear End of Tube (mm)</source><translation>Abstand Hauptspiegel - hinteres Tubusende (mm)</translation></message>
  <message><source>Distance Focuser to front End of Tube (mm)</source><translation>Abstand Focuser - vorderes Tubusende (mm)</translation></message>
  <message><source>Wanted 100% illuminated field of view</source><translation>Gewünschtes 100% ausgeleuchtetes Bildfeld</translation></message>
  <message><source>Degrees</source><translation>Grad</translation></message>

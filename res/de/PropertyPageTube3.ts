@@ -3,11 +3,8 @@
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
  <name>PropertyPageTube3</name>
- <message><source>About these pages</source><translation>Über diese Seiten</translation></message>
- <message><source>Help for this page</source><translation>Hilfe zu dieser Seite</translation></message>
  <message><source>Mirror Box</source><translation>Spiegelbox</translation></message>
  <message><source>Tickness (mm)</source><translation>Wanddicke (mm)</translation></message>
- <message><source>Reset to the proposed value</source><translation>Auf den Vorschlag zurücksetzen</translation></message>
  <message><source>Height (mm)</source><translation>Höhe (mm)</translation></message>
  <message><source>Type</source><translation>Typ</translation></message>
  <message><source>Distance rror Box / Upper Cage</source><translation>Abstand Spiegelzelle/Hut (mm)</translation></message>

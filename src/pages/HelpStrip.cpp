@@ -16,8 +16,11 @@ CHelpStrip::CHelpStrip(QWidget* parent) : QWidget(parent)
         picture->setToolTip(name);
         picture->setAccessibleName(name);
         column->addWidget(picture);
+        return picture;
     };
     add(kInfoControl, ":/icons/info.svg", tr("Info"));
-    add(kHelpControl, ":/icons/question.svg", tr("Help on this page"));
+    help = add(kHelpControl, ":/icons/question.svg", tr("Help on this page"));
     column->addStretch();
 }
+
+void CHelpStrip::setHelpControl(int controlId) { help->setProperty(kControlId, controlId); }

@@ -1,6 +1,7 @@
 #include "pages/PropertyPageTube.h"
 
 #include "document/OrrevaDoc.h"
+#include "pages/HelpStrip.h"
 
 CPropertyPageTube::CPropertyPageTube(COrrevaDoc& doc, QWidget* parent) : CPropertyPage(parent), document(doc)
 {}
@@ -9,10 +10,9 @@ COrrevaData& CPropertyPageTube::Record() { return *document.active_record; }
 
 void CPropertyPageTube::BindTubeHelp()
 {
-    constexpr int kInfo = 1019;
-    constexpr int kHelp = 1031;
+    constexpr int kHelpControl = 1031;
     constexpr long kTubePage = 105;
-    BindHelp(kInfo, kHelp, kTubePage);
+    BindHelp(CHelpStrip::kInfoControl, kHelpControl, kTubePage);
 }
 
 void CPropertyPageTube::ShowChange()

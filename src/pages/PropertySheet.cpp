@@ -3,10 +3,12 @@
 #include "pages/Controls.h"
 #include "pages/Help.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -125,9 +127,22 @@ void CPropertySheet::Activate(int index)
         tabs->widget(index)->layout()->addWidget(entry.page);
         connect(entry.page, &CPropertyPage::Modified, this, [this] { apply->setEnabled(true); });
         connect(entry.page, &CPropertyPage::WizardButtons, this, &CPropertySheet::ShowWizardButtons);
+        entry.page->show();
+        GrowFor(entry.page);
     }
     heading->setText(tabs->tabText(index));
     entry.page->OnSetActive();
+}
+
+/// The sheet becomes as large as its largest page asks for, as far as the screen allows.
+void CPropertySheet::GrowFor(QWidget* page)
+{
+    // What the page asks for goes up from parent to parent by events; it is wanted now.
+    for (QWidget* widget = page; widget != nullptr && widget != parentWidget();
+         widget = widget->parentWidget()) {
+        QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
+    }
+    resize(size().expandedTo(sizeHint().boundedTo(screen()->availableSize())));
 }
 
 void CPropertySheet::Apply()

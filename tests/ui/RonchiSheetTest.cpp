@@ -9,7 +9,7 @@
 namespace {
 
 template <class Base>
-class RonchiSheetOf : public SheetFixture<Base> {
+class RonchiSheetOf : public OnSavedTelescope<Base> {
 protected:
     template <class Act>
     void InRonchiSheet(Act act)

@@ -61,9 +61,9 @@ inline QStringList OddTexts()
 
 /// A fixture with a telescope that is loaded and saved.
 template <class Base>
-class SheetFixture : public Base {
+class OnSavedTelescope : public Base {
 protected:
-    SheetFixture()
+    OnSavedTelescope()
     {
         Base::MakeTelescope();
         Document().main_record.SaveAs("mine.orreva.xml");
@@ -82,6 +82,7 @@ protected:
             auto* const sheet = qobject_cast<Sheet*>(QApplication::activeModalWidget());
             ASSERT_NE(nullptr, sheet);
             ++Base::seenDialogs;
+            QCoreApplication::processEvents(); // the sheet stands and is laid out
             act(*sheet);
             if (sheet->isVisible()) {
                 sheet->reject();
