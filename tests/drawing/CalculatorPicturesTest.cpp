@@ -15,16 +15,17 @@ namespace {
 
 constexpr Colour kGrey{192, 192, 192};
 
-RecordingSurface Polygon(double dDiameter, double dThickness, std::int32_t nType)
+RecordingSurface Polygon(double dDiameter, double dThickness, std::int32_t nType, Pixel size = {400, 320})
 {
-    RecordingSurface surface(400, 320);
+    RecordingSurface surface(size.x, size.y);
     PaintPolygon(surface, {dDiameter, dThickness, nType}, kEnglish);
     return surface;
 }
 
-RecordingSurface Sector(double dDiameter, double dValue, std::int32_t nType = kSectorAngleType)
+RecordingSurface Sector(double dDiameter, double dValue, std::int32_t nType = kSectorAngleType,
+                        Pixel size = {320, 300})
 {
-    RecordingSurface surface(320, 300);
+    RecordingSurface surface(size.x, size.y);
     PaintSector(surface, {dDiameter, dValue, nType}, kEnglish);
     return surface;
 }
@@ -217,12 +218,16 @@ void ExpectReadable(const RecordingSurface& surface, const std::string& name)
 
 TEST(CalculatorPictures, KeepTheirLabelsClearOfLinesAndOfOneAnother)
 {
-    for (std::int32_t nType = 0; nType < kPolygonTypeCount; ++nType) {
-        ExpectReadable(Polygon(225, 6.5, nType), PolygonTypeName(nType));
-        ExpectReadable(Polygon(400, 20, nType), PolygonTypeName(nType));
-    }
-    for (int nAngle = 0; nAngle <= 360; nAngle += 5) {
-        ExpectReadable(Sector(100, nAngle), std::to_string(nAngle));
+    for (const Pixel size : {Pixel{320, 300}, Pixel{420, 420}, Pixel{900, 420}, Pixel{1100, 900}}) {
+        const std::string name = std::to_string(size.x) + " wide, ";
+        for (std::int32_t nType = 0; nType < kPolygonTypeCount; ++nType) {
+            for (const double dThickness : {1.0, 6.5, 20.0}) {
+                ExpectReadable(Polygon(225, dThickness, nType, size), name + PolygonTypeName(nType));
+            }
+        }
+        for (int nAngle = 0; nAngle <= 360; nAngle += 5) {
+            ExpectReadable(Sector(100, nAngle, kSectorAngleType, size), name + std::to_string(nAngle));
+        }
     }
 }
 
