@@ -108,18 +108,14 @@ std::vector<std::string> Words::Values(std::string_view option) const
 Words TakeApart(const std::vector<std::string>& arguments)
 {
     Words words;
-    words.help = std::ranges::find(arguments, "--help") != arguments.end();
-    words.version = std::ranges::find(arguments, "--version") != arguments.end();
     const std::size_t verbAt = FindVerb(arguments);
-    const auto verb = verbAt < arguments.size()
-                          ? std::ranges::find(kVerbs, arguments[verbAt], &VerbName::name)
-                          : std::end(kVerbs);
-    if (verb != std::end(kVerbs)) {
+    const bool hasVerb = verbAt < arguments.size();
+    if (hasVerb) {
+        const auto verb = std::ranges::find(kVerbs, arguments[verbAt], &VerbName::name);
+        if (verb == std::end(kVerbs)) {
+            UsageError("unknown verb", arguments[verbAt]);
+        }
         words.verb = verb->verb;
-    } else if (words.help || words.version) {
-        return words;
-    } else if (verbAt < arguments.size()) {
-        UsageError("unknown verb", arguments[verbAt]);
     }
 
     bool optionsEnded = false;

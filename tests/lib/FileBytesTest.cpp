@@ -44,7 +44,7 @@ TEST(ReadFileBytes, StopsAtItsLimit)
     EXPECT_EQ("abcdef", ReadFileBytes(path.c_str(), 6));
     EXPECT_EQ("abcdef", ReadFileBytes(path.c_str(), 7));
     EXPECT_EQ("", ReadFileBytes(path.c_str(), 0));
-    EXPECT_EQ(std::string(1000, '\0'), ReadFileBytes("/dev/zero", 1000));
+    EXPECT_EQ(std::nullopt, ReadFileBytes("/dev/zero", 1000)) << "a device may have no end";
 }
 
 TEST(ReadFileBytes, GivesNothingForWhatIsNoReadableFile)

@@ -366,29 +366,30 @@ TEST_F(MainFrame, ClosingWithNoLosesTheChanges)
 
 TEST_F(MainFrame, AcceleratorsGiveTheirCommands)
 {
-    const struct {
-        Qt::Key key;
-        const char* title;
-        Modal modal;
-    } rows[] = {{Qt::Key_N, "New", Modal::TelescopeSheet},
-                {Qt::Key_E, "Telescope Properties", Modal::TelescopeSheet}};
-    QTest::keyClick(&app->Frame(), Qt::Key_E, Qt::ControlModifier); // disabled: no telescope, no dialog
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifier modifier) {
+        app->Frame().activateWindow();
+        QCoreApplication::processEvents();
+        QTest::keyClick(&app->Frame(), key, modifier);
+        QCoreApplication::processEvents();
+    };
+    press(Qt::Key_E, Qt::ControlModifier); // disabled: no telescope, no dialog
     MakeTelescope();
     app->Document().main_record.SetModified(0);
-    for (const auto& row : rows) {
-        InNextDialog<QDialog>([&row](QDialog& dialog) {
-            EXPECT_EQ(row.title, dialog.windowTitle());
-            row.key == Qt::Key_N ? dialog.accept() : dialog.reject();
+    for (const auto& [key, title] :
+         {std::pair(Qt::Key_N, "New"), std::pair(Qt::Key_E, "Telescope Properties")}) {
+        InNextDialog<QDialog>([&key, &title](QDialog& dialog) {
+            EXPECT_EQ(title, dialog.windowTitle());
+            key == Qt::Key_N ? dialog.accept() : dialog.reject();
         });
-        QTest::keyClick(&app->Frame(), row.key, Qt::ControlModifier);
+        press(key, Qt::ControlModifier);
     }
     InNextDialog<QFileDialog>([](QFileDialog& dialog) {
         EXPECT_EQ("File Type Orreva (*.orreva)", dialog.nameFilters().constFirst())
             << "the old format, not Open";
         dialog.reject();
     });
-    QTest::keyClick(&app->Frame(), Qt::Key_O, Qt::ControlModifier);
-    QTest::keyClick(&app->Frame(), Qt::Key_F1, Qt::ShiftModifier);
+    press(Qt::Key_O, Qt::ControlModifier);
+    press(Qt::Key_F1, Qt::ShiftModifier);
     EXPECT_EQ(1u, helpPages.size());
 }
 
@@ -526,7 +527,7 @@ TEST_F(MainFrameGerman, WhatIfBarButtonsAreGermanAndItsListToo)
 TEST(CommandLineOfTheWindow, AFileArrivesByWayOfTheOldFormat)
 {
     const TemporaryFolder folder;
-    std::filesystem::copy_file(ORREVA_SOURCE_DIR "/tests/golden/old.orreva", "old.orreva");
+    std::filesystem::copy_file(ORREVA_SOURCE_DIR "/tests/golden/exchange/truss.orreva", "old.orreva");
     COrrevaApp app;
     ASSERT_TRUE(app.InitInstance({"old.orreva"}));
     EXPECT_TRUE(app.Document().HasFile());
