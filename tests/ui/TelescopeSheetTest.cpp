@@ -1,6 +1,8 @@
 #include "ui/SheetFixture.h"
 
 #include "model/Formulas.h"
+#include "views/LeftView.h"
+#include "views/OrrevaView.h"
 
 #include <QPlainTextEdit>
 #include <QTabBar>
@@ -297,6 +299,38 @@ TEST_F(TelescopeSheet, OkWithNothingChangedStillSetsModified)
     MakeSmallTelescope();
     InSheet([](CMyPropertySheet0& sheet) { Press(sheet, "ok"); });
     EXPECT_EQ(1, Record().IsModified());
+}
+
+/// Counts the repaints of a widget.
+class PaintCounter : public QObject {
+public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int paints = 0;
+};
+
+TEST_F(TelescopeSheet, ApplyOnAnyPageRefreshesTheViewsOnce)
+{
+    MakeSmallTelescope();
+    for (const PageRow& row : kPages) {
+        InSheet([&](CMyPropertySheet0& sheet) {
+            CPropertyPage& page = Visit(sheet, row.page);
+            emit page.Modified();
+            QCoreApplication::processEvents();
+            PaintCounter left(app->Frame().LeftView());
+            PaintCounter right(app->Frame().RightView());
+            Record().SetModified(0);
+            Press(sheet, "apply");
+            QCoreApplication::processEvents();
+            EXPECT_EQ(1, left.paints) << row.english;
+            EXPECT_EQ(1, right.paints) << row.english;
+            EXPECT_EQ(1, Record().IsModified()) << row.english;
+        });
+    }
 }
 
 TEST_F(TelescopeSheet, CancelDropsWhatWasTypedAndKeepsWhatResetsWrote)
