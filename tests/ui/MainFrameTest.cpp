@@ -366,29 +366,35 @@ TEST_F(MainFrame, ClosingWithNoLosesTheChanges)
 
 TEST_F(MainFrame, AcceleratorsGiveTheirCommands)
 {
-    const auto press = [this](Qt::Key key, Qt::KeyboardModifier modifier) {
+    // Accelerators are the active window's; it is made so before anybody waits for a dialog.
+    const auto activate = [this] {
         app->Frame().activateWindow();
         QCoreApplication::processEvents();
-        QTest::keyClick(&app->Frame(), key, modifier);
-        QCoreApplication::processEvents();
     };
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifier modifier) {
+        QTest::keyClick(&app->Frame(), key, modifier);
+    };
+    activate();
     press(Qt::Key_E, Qt::ControlModifier); // disabled: no telescope, no dialog
     MakeTelescope();
     app->Document().main_record.SetModified(0);
     for (const auto& [key, title] :
          {std::pair(Qt::Key_N, "New"), std::pair(Qt::Key_E, "Telescope Properties")}) {
+        activate();
         InNextDialog<QDialog>([&key, &title](QDialog& dialog) {
             EXPECT_EQ(title, dialog.windowTitle());
             key == Qt::Key_N ? dialog.accept() : dialog.reject();
         });
         press(key, Qt::ControlModifier);
     }
+    activate();
     InNextDialog<QFileDialog>([](QFileDialog& dialog) {
         EXPECT_EQ("File Type Orreva (*.orreva)", dialog.nameFilters().constFirst())
             << "the old format, not Open";
         dialog.reject();
     });
     press(Qt::Key_O, Qt::ControlModifier);
+    activate();
     press(Qt::Key_F1, Qt::ShiftModifier);
     EXPECT_EQ(1u, helpPages.size());
 }
