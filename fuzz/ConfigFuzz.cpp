@@ -1,6 +1,7 @@
 #include "lib/CharTools.h"
 #include "lib/FileBytes.h"
 #include "lib/LibConfig.h"
+#include "lib/LibSup.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -117,6 +118,29 @@ void SetAndReadBack(const char* section, const char* name, const std::string& va
     Require(ReadFileBytes(Path().c_str()) == once, "writing the same value again changes the file");
 }
 
+/// What a configuration file holds behind its text, which a zero byte ends.
+std::string Tail(const std::string& bytes)
+{
+    const std::size_t zero = bytes.find('\0');
+    return zero != std::string::npos ? bytes.substr(zero) : "";
+}
+
+void RequireRefusal(const char* section, const char* name, const char* value)
+{
+    const std::string before = ReadFileBytes(Path().c_str()).value_or("");
+    Require(CConfigFile(Path().c_str()).SetString(section, name, value) == kConfigValueTooLong,
+            "a value of two lines is written");
+    Require(ReadFileBytes(Path().c_str()) == before, "a refused value changes the file");
+}
+
+/// A support setting comes back as it was, whatever it holds.
+void KeepSupportValue(const char* section, const char* name, const std::string& value)
+{
+    std::snprintf(g_szIniName, sizeof g_szIniName, "%s", Path().c_str());
+    Require(SetSupportValue(section, name, value.c_str()) == kConfigOk, "the setting is not written");
+    Require(GetSupportValue(section, name, "none") == value.substr(0, 127), "another setting is read back");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -134,6 +158,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ReadAll(given, name.c_str());
     if (IsSectionName(section) && IsKeyName(name) && value.size() < 1000 && !HasLineEnd(value)) {
         SetAndReadBack(given, name.c_str(), value);
+        KeepSupportValue(given, name.c_str(), value);
+        RequireRefusal(given, name.c_str(), (value + "\rx").c_str());
+        Require(Tail(ReadFileBytes(Path().c_str()).value_or("")) == Tail(std::string(input)),
+                "what stands behind a zero byte is lost");
     }
     return 0;
 }

@@ -10,7 +10,7 @@ namespace {
 bool NamesAFileWithoutEnding(const std::filesystem::path& path)
 {
     const std::filesystem::path name = path.filename();
-    return !name.empty() && name != "." && name != ".." && !name.has_extension();
+    return !name.empty() && !name.native().starts_with('.') && !name.has_extension();
 }
 
 } // namespace

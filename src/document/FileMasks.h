@@ -33,5 +33,6 @@ constexpr FileDialog OldFormatMask(int language)
 std::string FilterEnding(const FileDialog& dialog);
 
 /// The path that a dialog's answer stands for: a name typed without an ending gets FilterEnding. A name with
-/// one, an empty path, and a file to be opened that exists as it was typed stay as they are.
+/// one, a name that begins with a dot, an empty path, and a file to be opened that exists as it was typed
+/// stay as they are.
 std::string WithEnding(const FileDialog& dialog, const std::string& path);

@@ -4,6 +4,31 @@
 
 #include <cstring>
 
+namespace {
+
+/// What stands behind the name that the line begins with, null if it begins with another.
+char* BehindName(char* pszLine, const char* pszName)
+{
+    char* const start = pszLine + (SkipBlanks(pszLine) - pszLine);
+    return StartsWithNoCase(pszName, start) != nullptr ? start + std::strlen(pszName) : nullptr;
+}
+
+/// The value in what stands behind a name, null if the name goes on there.
+char* ValueIn(char* rest)
+{
+    TrimRight(rest);
+    if (*rest != 0 && *rest != '=' && !IsBlank(*rest)) {
+        return nullptr;
+    }
+    char* const sign = rest + (SkipBlanks(rest) - rest);
+    if (*sign == 0) {
+        return sign;
+    }
+    return *sign == '=' ? sign + 1 + (SkipBlanks(sign + 1) - (sign + 1)) : nullptr;
+}
+
+} // namespace
+
 bool IsSectionLine(const char* pszLine) { return *SkipBlanks(pszLine) == '['; }
 
 bool IsSectionHeader(const char* pszLine, const char* pszSection)
@@ -15,18 +40,16 @@ bool IsSectionHeader(const char* pszLine, const char* pszSection)
 
 char* MatchKey(char* pszLine, const char* pszName)
 {
-    char* const start = pszLine + (SkipBlanks(pszLine) - pszLine);
-    if (StartsWithNoCase(pszName, start) == nullptr) {
+    char* const rest = BehindName(pszLine, pszName);
+    if (rest == nullptr) {
         return nullptr;
     }
-    char* const rest = start + std::strlen(pszName);
     StripComment(rest);
-    if (*rest != 0 && *rest != '=' && !IsBlank(*rest)) {
-        return nullptr;
-    }
-    char* const sign = rest + (SkipBlanks(rest) - rest);
-    if (*sign == 0) {
-        return sign;
-    }
-    return *sign == '=' ? sign + 1 + (SkipBlanks(sign + 1) - (sign + 1)) : nullptr;
+    return ValueIn(rest);
+}
+
+char* MatchPlainKey(char* pszLine, const char* pszName)
+{
+    char* const rest = BehindName(pszLine, pszName);
+    return rest != nullptr ? ValueIn(rest) : nullptr;
 }

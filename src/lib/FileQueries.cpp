@@ -9,13 +9,13 @@
 int FileExists(const char* pszPath)
 {
     std::error_code error;
-    return std::filesystem::exists(pszPath, error) ? 1 : 0;
+    return pszPath != nullptr && std::filesystem::exists(pszPath, error) ? 1 : 0;
 }
 
 std::int64_t FileSize(const char* pszPath)
 {
     // Only a file that can be opened has a size. Opening a pipe must not wait for its other end.
-    const int fd = open(pszPath, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const int fd = pszPath != nullptr ? open(pszPath, O_RDONLY | O_NONBLOCK | O_CLOEXEC) : -1;
     if (fd < 0) {
         return 0;
     }

@@ -17,6 +17,7 @@ struct Conversion {
     std::size_t flags = 0;
     std::size_t width = 0;
     std::size_t precision = 0;
+    const char* modifiers = nullptr; ///< where the size modifiers stand
     int longs = 0;
     char letter = 0;
 };
@@ -42,6 +43,7 @@ Conversion ReadConversion(const char*& p)
         ++p;
         c.precision = ReadNumber(p);
     }
+    c.modifiers = p;
     for (; *p == 'h' || *p == 'l'; ++p) {
         c.longs += *p == 'l' ? 1 : 0;
     }
@@ -57,13 +59,14 @@ std::size_t TextSize(const Conversion& c, const char* text)
     return std::max<std::size_t>(std::max(std::strlen(text), c.width) + c.precision, 1);
 }
 
-void SkipInteger(const Conversion& c, std::va_list args)
+/// The conversion from its '%' at `start` to its letter at `end`, as the runtime is to print it: a byte and a
+/// text of bytes, whatever their size modifiers, which the runtime would take for wide characters.
+std::string Printable(const Conversion& c, const char* start, const char* end)
 {
-    if (c.longs > 0) {
-        va_arg(args, long);
-    } else {
-        va_arg(args, int);
+    if (std::strchr("cCs", c.letter) == nullptr) {
+        return std::string(start, end + 1);
     }
+    return std::string(start, c.modifiers) + (c.letter == 's' ? 's' : 'c');
 }
 
 } // namespace
@@ -114,7 +117,11 @@ FormatSize CountFormat(const char* pszFormat, std::va_list args)
         case 'x':
         case 'X':
             counted += std::max(c.width, kIntegerSize);
-            SkipInteger(c, rest);
+            if (c.longs > 0) {
+                va_arg(rest, long);
+            } else {
+                va_arg(rest, int);
+            }
             break;
         case 'p':
             counted += std::max(c.width, kIntegerSize);
@@ -138,10 +145,7 @@ FormatSize CountFormat(const char* pszFormat, std::va_list args)
         }
         size.bytes += counted;
         if (prints) {
-            size.printable.append(start, p + 1);
-        }
-        if (c.letter == 'C') {
-            size.printable.back() = 'c'; // a byte too; the runtime would take a wide character
+            size.printable += Printable(c, start, p);
         }
     }
     va_end(rest);

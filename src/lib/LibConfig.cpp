@@ -76,7 +76,7 @@ int CConfigFile::Open()
         return kConfigAlreadyOpen;
     }
     std::error_code error;
-    if (std::filesystem::is_directory(m_szFilename, error)) {
+    if (!std::filesystem::is_regular_file(m_szFilename, error)) { // a pipe would be waited for
         return kConfigNotOpened;
     }
     m_pf = std::fopen(m_szFilename, "rb");
@@ -184,6 +184,13 @@ int CConfigFile::FindSection(const char* pszSection)
     return kConfigNoSection;
 }
 
+char* CConfigFile::MatchLine(char* pszLine, const char* pszName) const { return MatchKey(pszLine, pszName); }
+
+char* CPlainConfigFile::MatchLine(char* pszLine, const char* pszName) const
+{
+    return MatchPlainKey(pszLine, pszName);
+}
+
 int CConfigFile::FindKey(const char* pszName, LibString& value)
 {
     char szLine[kLongestKeyLine + 1];
@@ -191,7 +198,7 @@ int CConfigFile::FindKey(const char* pszName, LibString& value)
         if (IsSectionLine(szLine)) {
             return kConfigNoKeyInSection;
         }
-        if (const char* const found = MatchKey(szLine, pszName)) {
+        if (const char* const found = MatchLine(szLine, pszName)) {
             value = found;
             return kConfigOk;
         }
@@ -204,6 +211,9 @@ int CConfigFile::GetRaw(const char* pszSection, const char* pszName, char* dest,
     CONFIG_ASSERT(len < 2048);
     CONFIG_ASSERT(dest);
     CopyFitting(dest, "", len);
+    if (pszName == nullptr) {
+        return kConfigNullText;
+    }
     int code = Open();
     if (code != kConfigOk) {
         return code;
@@ -220,7 +230,6 @@ int CConfigFile::GetRaw(const char* pszSection, const char* pszName, char* dest,
     if (value.Length() >= len) {
         return kConfigValueTooLong;
     }
-    value.TrimBlanksRight();
     if (value[0] == '"') {
         value = value.Mid(1);
         if (!value.RemoveLastChar('"')) {
@@ -274,7 +283,13 @@ int CConfigFile::GetDouble(const char* pszSection, const char* pszName, double& 
 {
     LibString text;
     const int code = GetText(pszSection, pszName, text);
-    dTarget = code != kConfigOk ? dDefault : text == "NAN" ? HUGE_VAL : DecimalValue(text);
+    if (code != kConfigOk) {
+        dTarget = dDefault;
+    } else if (text == kNoValue) {
+        dTarget = HUGE_VAL;
+    } else {
+        dTarget = text == kMinusInfinity ? -HUGE_VAL : DecimalValue(text);
+    }
     return code;
 }
 

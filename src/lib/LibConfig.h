@@ -16,7 +16,7 @@ enum ConfigCode {
     kConfigNotOpen = 54,         ///< close without an open file
     kConfigAlreadyOpen = 55,     ///< open while already open
     kConfigListTooLong = 70,     ///< a list does not fit the buffer
-    kConfigValueTooLong = 71,    ///< a value does not fit the buffer
+    kConfigValueTooLong = 71,    ///< a value does not fit the buffer, or no line of the file holds it
     kConfigNullText = 74,        ///< null text
     kConfigNoKey = 401,          ///< key not found, end of file reached
     kConfigNoKeyInSection = 402, ///< key not found, next section reached
@@ -36,14 +36,18 @@ enum ConfigCode {
 /// are read up to 2047 characters, key lines up to 2039; what a line has beyond them is passed over.
 ///
 /// A value is written as it stands. Blanks at its ends, a `#`, or a `"` at its start come back only from
-/// within quotes, which the caller writes; a line end in it begins a new line of the file.
+/// within quotes, which the caller writes. Name, `=` and value must fit a key line: what is longer, or holds
+/// a line end, is refused with code 71. The names of sections are the caller's to keep free of line ends.
+///
+/// A zero byte ends the text for the readers; the writer leaves it and what follows at the end of the file.
+/// Only a regular file is opened. A null name of a key gives code 74.
 class CConfigFile {
 public:
     /// `psz` is the path, at most 1023 characters.
     explicit CConfigFile(const char* psz);
     CConfigFile(const CConfigFile&) = delete;
     CConfigFile& operator=(const CConfigFile&) = delete;
-    ~CConfigFile();
+    virtual ~CConfigFile();
 
     /// All names of sections, each followed by `=`. What does not fit the size less 10 gives code 70 and the
     /// names before it.
@@ -55,7 +59,7 @@ public:
 
     /// A typed value; on any failure the default, and the code tells why. "NAN" as a double is HUGE_VAL; as a
     /// bool, "true" and "yes" are true, "false" and "no" are false, and any other text is true for a number
-    /// but 0.
+    /// but 0. A value above 255 characters is code 71.
     int GetChar(const char* pszSection, const char* pszName, char& cTarget, char cDefault);
     int GetInt(const char* pszSection, const char* pszName, int& nTarget, int nDefault);
     int GetLong(const char* pszSection, const char* pszName, std::int32_t& nTarget, std::int32_t nDefault);
@@ -66,16 +70,19 @@ public:
     int GetString(const char* pszSection, const char* pszName, char* pszTarget, const char* pszDefault,
                   std::size_t nSize);
     int GetString(const char* pszSection, const char* pszName, LibString& target, const char* pszDefault);
-    /// The value itself, empty on failure; `len` is the room of `dest`, below 2048.
+    /// The value itself, empty on failure; `len` is the room of `dest`, below 2048, for the value with its
+    /// quotes.
     int GetRaw(const char* pszSection, const char* pszName, char* dest, std::size_t len);
 
     int SetInt(const char* pszSection, const char* pszName, int nValue);
     int SetBool(const char* pszSection, const char* pszName, bool bValue);
-    /// Six decimals; HUGE_VAL and NaN, which count as no value, are "NAN".
+    /// Six decimals; HUGE_VAL and NaN, which count as no value, are "NAN", -HUGE_VAL is "-inf". A number of
+    /// more than 255 characters, from about 1e248 on, is written but not read back.
     int SetDouble(const char* pszSection, const char* pszName, double dValue);
     int SetString(const char* pszSection, const char* pszName, const char* pszValue);
-    /// Writes a value in the place of the old one, or as the last of its section; null removes the line.
-    /// Kept: empty lines vanish from the file, and lines above 2045 characters fall into pieces.
+    /// Writes a value in the place of the old one, or as the last of its section; null removes the line. What
+    /// gives a code leaves the file as it was. Kept: empty lines vanish from the file, and lines above 2045
+    /// characters fall into pieces.
     int SetValue(const char* pszSection, const char* pszName, const char* pszValue);
 
     /// The steps of the operations above, each of which opens and closes the file itself.
@@ -83,6 +90,9 @@ public:
     int Close();
     /// Goes on in the open file to the next section and copies its name.
     int NextSection(char* pszTarget, std::size_t nSize);
+
+    /// The value in a line that is the key's, null for any other; reader and writer alike ask here.
+    virtual char* MatchLine(char* pszLine, const char* pszName) const;
 
 private:
     int FindSection(const char* pszSection);
@@ -92,6 +102,13 @@ private:
 
     char m_szFilename[1024];
     std::FILE* m_pf = nullptr;
+};
+
+/// The same without comments behind values: `#` is a character like any other.
+class CPlainConfigFile : public CConfigFile {
+public:
+    using CConfigFile::CConfigFile;
+    char* MatchLine(char* pszLine, const char* pszName) const override;
 };
 
 /// A name and its value. Blanks and tabs at the start of the name are removed.

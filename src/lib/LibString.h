@@ -55,7 +55,7 @@ public:
 
     /// Formatted assignment. The size is counted in advance from the format; a letter that is no conversion
     /// gives "Fehlerhaftes Zeichen im Format-String: " and that letter. A result that does not fit the count
-    /// ends the program with code 0. The arguments may not lie in this string's own text.
+    /// ends the program with code 0. The arguments may lie in this string's own text.
     void Format(const char* pszFormat, ...) __attribute__((format(printf, 2, 3)));
 
     /// Moves the text before the first `cSeparator` (or all of it) into `token`, untrimmed; this string

@@ -14,22 +14,26 @@ char g_szProgramDir[256] = "";
 
 int LibSupInit(const char* pszName, void* hInstance, void* hPrevInstance, const char* pszLogDir, int nFlag)
 {
-    if (std::strlen(pszName) >= sizeof g_szModuleName || std::strlen(pszLogDir) >= sizeof g_szModuleName) {
+    constexpr std::size_t kNameSize = 128;
+    if (std::strlen(pszName) >= kNameSize || std::strlen(pszLogDir) >= kNameSize) {
         return 1;
     }
     std::error_code error;
-    LibString directory(std::filesystem::read_symlink("/proc/self/exe", error).c_str());
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
+    const LibString module(program.stem().c_str());
+    LibString directory(program.c_str());
     PathStripName(&directory);
     const LibString ini = directory + "SUPPORT.INI";
     LibString log;
     log.Format("%s%s.LOG", pszLogDir, pszName);
-    if (error || ini.Length() >= sizeof g_szIniName || log.Length() >= sizeof g_szLogName) {
+    if (error || module.Length() >= sizeof g_szModuleName || ini.Length() >= sizeof g_szIniName ||
+        log.Length() >= sizeof g_szLogName) {
         return 1;
     }
     g_hInstance = hInstance;
     g_hPrevInstance = hPrevInstance;
     g_nSupFlag = nFlag;
-    std::strcpy(g_szModuleName, pszName);
+    std::strcpy(g_szModuleName, module);
     std::strcpy(g_szProgramDir, directory);
     std::strcpy(g_szIniName, ini);
     std::strcpy(g_szLogName, log);

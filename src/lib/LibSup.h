@@ -12,19 +12,22 @@ extern void* g_hPrevInstance;
 extern int g_nSupFlag;           ///< what LibSupInit was given along
 extern char g_szIniName[256];    ///< file of the support settings
 extern char g_szLogName[256];    ///< name of the log file
-extern char g_szModuleName[128]; ///< the program's base name
+extern char g_szModuleName[128]; ///< the program's base name: its file's, without directory and extension
 extern char g_szProgramDir[256]; ///< directory of the program with its slash; empty until LibSupInit
 
 /// Stores the identity: the settings are SUPPORT.INI beside the program, the log file `pszLogDir` and
-/// `pszName` and ".LOG". 0; 1, with nothing stored, if a text is longer than 127 characters, a name made of
-/// them does not fit, or the program's own path cannot be told.
+/// `pszName` and ".LOG"; the module's name is that of the program's own file, whatever `pszName` is. 0; 1,
+/// with nothing stored, if a text is longer than 127 characters, a name made of them does not fit, or the
+/// program's own path cannot be told.
 int LibSupInit(const char* pszName, void* hInstance, void* hPrevInstance, const char* pszLogDir, int nFlag);
 
 /// A setting of `g_szIniName`, at most 127 characters of it, in a static buffer that the next call fills
-/// anew; `pszDefault` (null for the empty text) if it is not there.
+/// anew; `pszDefault` (null for the empty text) if it is not there, as for a null key. The file is plain:
+/// what stands behind the `=` is the value, `#` and all, without blanks and one pair of quotes at its ends.
 const char* GetSupportValue(const char* pszSection, const char* pszKey, const char* pszDefault);
-/// Writes a setting, or removes it for a null value. A text with blanks at its ends or a `#` is put in quotes
-/// and so comes back as it was; it may hold no line end. 0, or a code of CConfigFile.
+/// Writes a setting, or removes it for a null value. Any text of one line comes back as it was: blanks at its
+/// ends and a quote at its start are put in quotes. 0, or a code of CConfigFile, with the file as it was: 71
+/// for a line end or a text beyond a line, 74 for a null key.
 int SetSupportValue(const char* pszSection, const char* pszKey, const char* pszValue);
 
 // Log reports
@@ -55,12 +58,12 @@ void LogMemory();
 void PathBuild(LibString& target, const char* pszDrive, const char* pszDirectory, const char* pszName,
                const char* pszExtension);
 /// Splits a path; each target may be null, and all are emptied first. The directory comes without slashes at
-/// its ends. False for an empty path and one of 2048 characters or more.
+/// its ends. False for an empty or null path and one of 2048 characters or more.
 bool PathSplit(const char* pszPath, LibString* drive, LibString* directory, LibString* name,
                LibString* extension);
 /// Pointer behind the last `.`, to the end of the text if there is none.
 const char* PathExtension(const char* psz);
-/// Removes the extension with its `.`, unless nothing would be left.
+/// Removes the extension with its `.`, unless the name would become empty. A dot of a directory begins none.
 void PathStripExtension(LibString* text);
 /// True if the extension is that one, without regard to case.
 bool PathHasExtension(const char* psz, const char* pszExtension);
@@ -88,7 +91,7 @@ int ReportError(int nCode);
 // Programs
 
 /// Claims a shared object of 32 bytes of that name, for this user, until the program ends. Its handle, or
-/// null if another holds it or it cannot be made.
+/// null if another holds it or it cannot be made, as for a null name.
 void* AlreadyRunning(const char* pszName);
 /// Starts a program by its command line, words split by blanks, double quotes keeping them together, and does
 /// not wait for it. 0, or 62 if it cannot be started.
@@ -98,3 +101,5 @@ int RunProgram(const char* pszCommandLine);
 int OpenDocument(void* hParent, const char* pszPath);
 /// True if the system tells the user's name, or fails to for any reason but that it cannot at all.
 bool IsUserLoggedIn();
+/// The same for what the look-up of the name gave: 0 or the system's error.
+bool IsUserLoggedIn(int nError);

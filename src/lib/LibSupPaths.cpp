@@ -3,6 +3,7 @@
 #include <cstring>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -49,7 +50,8 @@ bool PathSplit(const char* pszPath, LibString* drive, LibString* directory, LibS
                LibString* extension)
 {
     constexpr std::size_t kLongestPath = 2047;
-    std::string rest(pszPath); // before the targets are emptied: it may lie in one of them
+    // A copy before the targets are emptied: the path may lie in one of them.
+    std::string rest(IsGiven(pszPath) ? pszPath : "");
     for (LibString* const target : {drive, directory, name, extension}) {
         Set(target, "");
     }
@@ -95,10 +97,11 @@ const char* PathExtension(const char* psz)
 
 void PathStripExtension(LibString* text)
 {
-    const long dot = text->ReverseFind('.');
-    const char before = text->At(dot - 1); // 0 where nothing stands
-    if (dot >= 0 && before != 0 && std::strchr("\\/:", before) == nullptr) {
-        text->SetAt(dot, 0);
+    const std::string_view path(text->GetText());
+    const std::size_t dot = path.find_last_of(".\\/:");
+    const bool inName = dot != std::string_view::npos && dot > 0 && path[dot] == '.';
+    if (inName && std::strchr("\\/:", path[dot - 1]) == nullptr) {
+        text->SetAt(static_cast<long>(dot), 0);
     }
 }
 

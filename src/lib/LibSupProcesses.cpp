@@ -84,6 +84,9 @@ std::vector<std::string> SplitWords(const char* psz)
 void* AlreadyRunning(const char* pszName)
 {
     constexpr off_t kSize = 32;
+    if (pszName == nullptr) {
+        return nullptr;
+    }
     std::string name(pszName);
     std::replace(name.begin(), name.end(), '/', '_');
     name = "/" + name + "." + std::to_string(geteuid());
@@ -124,5 +127,7 @@ bool IsUserLoggedIn()
     passwd entry = {};
     passwd* found = nullptr;
     std::vector<char> buffer(16384);
-    return getpwuid_r(geteuid(), &entry, buffer.data(), buffer.size(), &found) != ENOSYS;
+    return IsUserLoggedIn(getpwuid_r(geteuid(), &entry, buffer.data(), buffer.size(), &found));
 }
+
+bool IsUserLoggedIn(int nError) { return nError != ENOSYS; }

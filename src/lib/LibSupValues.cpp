@@ -9,15 +9,15 @@ const char* GetSupportValue(const char* pszSection, const char* pszKey, const ch
 {
     static char szValue[128];
     LibString value;
-    CConfigFile(g_szIniName).GetString(pszSection, pszKey, value, pszDefault);
+    CPlainConfigFile(g_szIniName).GetString(pszSection, pszKey, value, pszDefault);
     return std::strcpy(szValue, value.Left(sizeof szValue - 1));
 }
 
 int SetSupportValue(const char* pszSection, const char* pszKey, const char* pszValue)
 {
-    CConfigFile file(g_szIniName);
+    CPlainConfigFile file(g_szIniName);
     const LibString value(pszValue);
-    if (IsBlank(value[0]) || IsBlank(value.LastChar()) || value[0] == '"' || value.Find('#') >= 0) {
+    if (IsBlank(value[0]) || IsBlank(value.LastChar()) || value[0] == '"') {
         return file.SetValue(pszSection, pszKey, '"' + value + '"');
     }
     return file.SetValue(pszSection, pszKey, pszValue);

@@ -17,8 +17,8 @@
 /// comment. Pointer to that content, null at the end of the file.
 char* ReadDataLine(char* psz, std::FILE* pf);
 /// Copies a line out of `text`, without its CRs, until an LF or until `limit` - 1 characters are copied.
-/// Pointer to what follows; null at the end of the text, for a line of 65535 characters or more, and for a
-/// limit that holds no character.
+/// Pointer to what follows; null, with `target` empty, at the end of the text, for a line of 65535 characters
+/// or more, and for a limit that holds no character (below 1, `target` is not touched).
 const char* NextTextLine(char* target, const char* text, std::size_t limit);
 /// Copies a field of a separated text, counted from 0; false, with `target` empty, if there is none.
 bool GetField(int index, char separator, LibString& target, const char* text);
@@ -85,7 +85,7 @@ void PadText(LibString& text, int length, char c);
 /// The same at its right.
 void PadRight(LibString& text, int length, char c);
 /// Replaces each occurrence of `pszWas` by `pszMit` and gives the new length. The result has 2047 characters
-/// at the most, and is cut there. An empty `pszWas` occurs nowhere.
+/// at the most, and is cut there; a text without a hit stays whole. An empty `pszWas` occurs nowhere.
 int Replace(LibString* pszSource, const char* pszWas, const char* pszMit);
 /// The same, where `pszWas` is sought through FoldUpper.
 int ReplaceNoCase(LibString* pszSource, const char* pszWas, const char* pszMit);
@@ -102,9 +102,9 @@ struct TextCode {
     const char* text;
     int code;
 };
-/// The code of a text, 0 if it is not in the table.
+/// The code of a text, 0 if it is not in the table. A null text or table has no code.
 int FindCode(const TextCode* table, const char* psz);
-/// The text of a code, null if it is not in the table.
+/// The text of a code, null if it is not in the table; null for a null table.
 const char* FindName(const TextCode* table, int code);
 
 // System

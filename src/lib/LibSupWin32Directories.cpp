@@ -1,6 +1,7 @@
 #include "lib/LibSupWin32.h"
 
 #include "lib/Assertion.h"
+#include "lib/CodePage.h"
 #include "lib/ErrCode.h"
 #include "lib/LibSup.h"
 
@@ -82,12 +83,12 @@ int MakeDirectory(const char* pszPath)
     }
     LibString text;
     if (IsBadPath(error)) {
-        text.Format("ERROR_BAD_PATHNAME: %s", pszPath);
+        text.Format("ERROR_BAD_PATHNAME: %s", Cp1252FromUtf8(pszPath).c_str());
         ShowError(text);
         throw ErrCode::Unknown;
     }
     if (error != 0) {
-        text.Format("Err %d, %s", error, pszPath);
+        text.Format("Err %d, %s", error, Cp1252FromUtf8(pszPath).c_str());
         ShowError(text);
         return 1;
     }

@@ -22,12 +22,16 @@ const char* NextTextLine(char* target, const char* text, std::size_t limit)
 {
     constexpr std::size_t kLongestLine = 65535;
     if (*text == 0 || limit < 2) {
+        if (limit > 0) {
+            *target = 0;
+        }
         return nullptr;
     }
     std::size_t n = 0;
     const char* p = text;
     for (; *p != 0 && *p != '\n' && n + 1 < limit; ++p) {
         if (p + 1 == text + kLongestLine) {
+            *target = 0;
             return nullptr;
         }
         if (*p != '\r') {

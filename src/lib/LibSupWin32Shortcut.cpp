@@ -66,7 +66,8 @@ int CreateShortcut(const char* pszTarget, const char* pszLink, const char* pszDe
                               "\nExec=" + EntryText(Command(pszTarget)) + "\n";
     if (std::strlen(pszLink) > kLongestLink || !ReplaceFile(pszLink, entry)) {
         LibString text;
-        text.Format("Error saving %s to %s!", pszTarget, pszLink);
+        text.Format("Error saving %s to %s!", Cp1252FromUtf8(pszTarget).c_str(),
+                    Cp1252FromUtf8(pszLink).c_str());
         return Fail(text);
     }
     return 0;

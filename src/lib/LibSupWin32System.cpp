@@ -1,6 +1,7 @@
 #include "lib/LibSupWin32.h"
 
 #include "lib/Assertion.h"
+#include "lib/CodePage.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -89,4 +90,7 @@ int GetOsVersionText(LibString& target)
     return 0;
 }
 
-void ShowLastError() { CurrentDesktop().ShowBox("Error", std::strerror(errno), false); }
+void ShowLastError()
+{
+    CurrentDesktop().ShowBox("Error", Cp1252FromUtf8(std::strerror(errno)).c_str(), false);
+}

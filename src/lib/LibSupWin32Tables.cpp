@@ -2,7 +2,7 @@
 
 int FindCode(const TextCode* table, const char* psz)
 {
-    for (const TextCode* row = table; row->text != nullptr; ++row) {
+    for (const TextCode* row = table; row != nullptr && psz != nullptr && row->text != nullptr; ++row) {
         if (std::strcmp(row->text, psz) == 0) {
             return row->code;
         }
@@ -12,7 +12,7 @@ int FindCode(const TextCode* table, const char* psz)
 
 const char* FindName(const TextCode* table, int code)
 {
-    for (const TextCode* row = table; row->text != nullptr; ++row) {
+    for (const TextCode* row = table; row != nullptr && row->text != nullptr; ++row) {
         if (row->code == code) {
             return row->text;
         }

@@ -22,10 +22,13 @@ int ReplaceBy(Search search, LibString& source, const char* pszWas, const char* 
 {
     constexpr std::size_t kLongestResult = 2047;
     const std::size_t length = std::strlen(pszWas);
+    if (length == 0 || search(pszWas, source) == nullptr) {
+        return static_cast<int>(source.Length());
+    }
     std::string result;
     const char* p = source;
     while (result.size() <= kLongestResult) {
-        const char* const hit = length != 0 ? search(pszWas, p) : nullptr;
+        const char* const hit = search(pszWas, p);
         if (hit == nullptr) {
             result += p;
             break;
@@ -66,7 +69,11 @@ void PadText(LibString& text, int length, char c)
     text = (Padding(text, length, c) + text.GetText()).c_str();
 }
 
-void PadRight(LibString& text, int length, char c) { text += Padding(text, length, c).c_str(); }
+void PadRight(LibString& text, int length, char c)
+{
+    // Assigned, not appended, which would bring blanks back that are trimmed at the left.
+    text = (text.GetText() + Padding(text, length, c)).c_str();
+}
 
 int Replace(LibString* pszSource, const char* pszWas, const char* pszMit)
 {

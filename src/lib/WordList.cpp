@@ -16,9 +16,8 @@ const char* WordEnd(const char* p)
     return p;
 }
 
-} // namespace
-
-const char* FindWord(const char* word, const char* list)
+/// Where `word` stands as a word of its own.
+const char* FindWholeWord(const char* word, const char* list)
 {
     const std::size_t length = std::strlen(word);
     for (const char* p = SkipBlanks(list); length != 0 && *p != 0; p = SkipBlanks(WordEnd(p))) {
@@ -29,10 +28,23 @@ const char* FindWord(const char* word, const char* list)
     return nullptr;
 }
 
+} // namespace
+
+const char* FindWord(const char* word, const char* list)
+{
+    const std::size_t length = std::strlen(word);
+    for (const char* p = list; length != 0 && (p = FindText(word, p)) != nullptr; ++p) {
+        if (EndsWord(p[length])) {
+            return p;
+        }
+    }
+    return nullptr;
+}
+
 bool RemoveWord(const char* word, char* list)
 {
     bool removed = false;
-    while (const char* const found = FindWord(word, list)) {
+    while (const char* const found = FindWholeWord(word, list)) {
         char* const start = list + (found - list);
         const char* const rest = SkipBlanks(found + std::strlen(word));
         std::memmove(start, rest, std::strlen(rest) + 1);
@@ -46,7 +58,7 @@ bool RemoveWord(const char* word, char* list)
 
 bool AddWord(const char* word, char* list, std::size_t size)
 {
-    if (FindWord(word, list) != nullptr) {
+    if (FindWholeWord(word, list) != nullptr) {
         return true;
     }
     const std::size_t length = std::strlen(list);

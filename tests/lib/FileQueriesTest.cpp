@@ -21,6 +21,7 @@ TEST(FileQueries, WhatStandsAtAPathExistsADirectoryToo)
     EXPECT_EQ(0, FileExists((folder / "missing").c_str()));
     EXPECT_EQ(0, FileExists((folder / "a/below").c_str()));
     EXPECT_EQ(0, FileExists(""));
+    EXPECT_EQ(0, FileExists(nullptr));
 }
 
 TEST(FileQueries, ALinkCountsAsWhatItLeadsTo)
@@ -49,6 +50,7 @@ TEST(FileQueries, AnEmptyFileAMissingOneAndADirectoryHaveNoSize)
     EXPECT_EQ(0, FileSize(folder.Write("empty", "").c_str()));
     EXPECT_EQ(0, FileSize((folder / "missing").c_str()));
     EXPECT_EQ(0, FileSize(folder.Path().c_str()));
+    EXPECT_EQ(0, FileSize(nullptr));
 }
 
 TEST(FileQueries, SizeDoesNotWaitForTheOtherEndOfAPipe)

@@ -203,6 +203,25 @@ TEST(LibStringFormat, ACapitalCharacterIsAByteLikeTheSmallOne)
     EXPECT_EQ("\xE4  |", Formatted("%-3c|", 0xE4));
 }
 
+TEST(LibStringFormat, SizeModifiersDoNotReachCharactersAndTexts)
+{
+    const char* const text = "\xE4z";
+    EXPECT_EQ("\xE4z|\xE4z|\xE4z", Formatted("%ls|%hs|%lls", text, text, text));
+    EXPECT_EQ("   \xE4z|\xE4  |", Formatted("%5ls|%-3.1hs|", text, text));
+    EXPECT_EQ("\xE4\xE4\xE4\xE4", Formatted("%lc%hc%lC%hC", 0xE4, 0xE4, 0xE4, 0xE4));
+    EXPECT_EQ("%s", Counted("%ls", "a").printable);
+    EXPECT_EQ("%-5c", Counted("%-5lC", 1).printable);
+    EXPECT_EQ("%ld%hd%lf", Counted("%ld%hd%lf", 1L, 1, 1.0).printable);
+}
+
+TEST(LibStringFormat, TheArgumentsMayLieInTheOldText)
+{
+    LibString text("  abc");
+    text.TrimBlanks();
+    text.Format("%s, %s", text.GetText(), text.GetText() + 1);
+    EXPECT_STREQ("abc, bc", text);
+}
+
 TEST(LibStringFormat, LettersThatPrintNothingTakeNoArgument)
 {
     EXPECT_EQ("1 2", Formatted("%d%n%r %d", 1, 2));

@@ -13,6 +13,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -76,9 +77,16 @@ TEST(LibSupWin32Reading, TakesLinesOutOfAText)
         lines.emplace_back(line);
     }
     EXPECT_EQ((Calls{"a", "", "bc", "longer ", "than", "z"}), lines);
-    EXPECT_EQ(nullptr, NextTextLine(line, "", sizeof line));
+    EXPECT_STREQ("", line) << "no line, no text";
+    line[0] = 'x';
     EXPECT_EQ(nullptr, NextTextLine(line, "abc", 1));
+    EXPECT_STREQ("", line);
+    line[0] = 'x';
     EXPECT_EQ(nullptr, NextTextLine(line, "abc", 0));
+    EXPECT_EQ('x', line[0]) << "no room at all";
+    char own[] = "a\rb\nc";
+    EXPECT_STREQ("c", NextTextLine(own, own, sizeof own));
+    EXPECT_STREQ("ab", own) << "a line may take the place of its text";
 }
 
 TEST(LibSupWin32Reading, ATextLineEndsAt65535Characters)
@@ -88,6 +96,7 @@ TEST(LibSupWin32Reading, ATextLineEndsAt65535Characters)
     EXPECT_STREQ("z", NextTextLine(line.data(), (below + "\nz").c_str(), line.size()));
     EXPECT_EQ(below, line.data());
     EXPECT_EQ(nullptr, NextTextLine(line.data(), (below + "x\nz").c_str(), line.size()));
+    EXPECT_STREQ("", line.data());
     EXPECT_EQ(nullptr, NextTextLine(line.data(), std::string(65535, '\r').c_str(), line.size()));
 }
 
@@ -136,8 +145,11 @@ TEST(LibSupWin32Directories, TellsWhyItCannotMakeADirectory)
     folder.Write("file", "");
     const std::string below = (folder / "file/a");
     EXPECT_EQ(1, MakeDirectory(below.c_str()));
+    EXPECT_EQ(1, MakeDirectory("file/Öl"));
     EXPECT_EQ(1, MakeDirectory(""));
-    EXPECT_EQ((Calls{"stop Error: Err 20, " + below, "stop Error: Err 2, "}), desktop.calls);
+    EXPECT_EQ(
+        (Calls{"stop Error: Err 20, " + below, "stop Error: Err 20, file/\xD6l", "stop Error: Err 2, "}),
+        desktop.calls);
     EXPECT_EQ(0, MakeDirectory((folder / "file").c_str())) << "exists, though it is a file";
 }
 
@@ -169,7 +181,10 @@ TEST(LibSupWin32Directories, ABadPathNameIsThrown)
         thrown = error;
     }
     EXPECT_EQ(1, static_cast<int>(thrown));
-    EXPECT_EQ(Calls{"stop Error: ERROR_BAD_PATHNAME: " + path}, desktop.calls);
+    EXPECT_THROW(MakeDirectory(("ä" + std::string(300, 'n')).c_str()), ErrCode);
+    EXPECT_EQ((Calls{"stop Error: ERROR_BAD_PATHNAME: " + path,
+                     "stop Error: ERROR_BAD_PATHNAME: \xE4" + std::string(300, 'n')}),
+              desktop.calls);
 }
 
 TEST(LibSupWin32Directories, RemovesWhatStandsBelowADirectory)
@@ -358,7 +373,8 @@ TEST(LibSupWin32System, RootIsAnAdministratorAndNobodyIsNone)
         EXPECT_EQ(1, IsAdministrator());
         EXPECT_EXIT((BecomeOrdinaryUser(), std::_Exit(IsAdministrator())), testing::ExitedWithCode(0), "");
     } else {
-        EXPECT_EQ(IsAdministrator(), IsAdministrator() != 0 ? 1 : 0);
+        EXPECT_EQ(std::system("id -Gn | tr ' ' '\\n' | grep -qxE 'root|sudo|wheel'") == 0 ? 1 : 0,
+                  IsAdministrator());
     }
 }
 
@@ -433,10 +449,12 @@ TEST(LibSupWin32Shortcut, TellsTheStepThatFailed)
     EXPECT_EQ(1, CreateShortcut("/bin/a", link.c_str(), "two\nlines"));
     EXPECT_EQ(1, CreateShortcut("/bin/a", missing.c_str(), "text"));
     EXPECT_EQ(1, CreateShortcut("/bin/a", tooLong.c_str(), "text"));
+    EXPECT_EQ(1, CreateShortcut("/bin/ö", "fehlt/ü.desktop", "text"));
     EXPECT_EQ(
         (Calls{"stop Error: SetPath failed!", "stop Error: SetPath failed!",
                "stop Error: SetDescription failed!", "stop Error: Error saving /bin/a to " + missing + "!",
-               "stop Error: Error saving /bin/a to " + tooLong + "!"}),
+               "stop Error: Error saving /bin/a to " + tooLong + "!",
+               "stop Error: Error saving /bin/\xF6 to fehlt/\xFC.desktop!"}),
         desktop.calls);
     EXPECT_EQ(0, folder.Count());
 }

@@ -82,6 +82,10 @@ TEST(LibSupWin32Text, PadsUpToALength)
     EXPECT_STREQ("00ab..", text);
     PadRight(text, 3, '.');
     EXPECT_STREQ("00ab..", text);
+    text = "  ab";
+    text.TrimBlanks();
+    PadRight(text, 5, '.');
+    EXPECT_STREQ("ab...", text) << "blanks that are trimmed away stay away";
 }
 
 TEST(LibSupWin32Text, ReplacesEachOccurrence)
@@ -122,6 +126,12 @@ TEST(LibSupWin32Text, AReplacedTextHas2047CharactersAtTheMost)
     EXPECT_EQ('b', text.LastChar());
     text = std::string(1023, 'a').c_str();
     EXPECT_EQ(2046, Replace(&text, "a", "bc"));
+    const std::string longText(3000, 'a');
+    text = longText.c_str();
+    EXPECT_EQ(3000, Replace(&text, "b", "c")) << "a text without a hit stays whole";
+    EXPECT_EQ(3000, ReplaceNoCase(&text, "B", "c"));
+    EXPECT_EQ(3000, Replace(&text, "", "c"));
+    EXPECT_EQ(longText, text.GetText());
 }
 
 TEST(LibSupWin32TextDeathTest, MisuseEndsTheProgram)
@@ -183,6 +193,9 @@ TEST(LibSupWin32Tables, GiveACodeForATextAndATextForACode)
     EXPECT_EQ(2, FindCode(table, "two"));
     EXPECT_EQ(0, FindCode(table, "Two"));
     EXPECT_EQ(0, FindCode(table, ""));
+    EXPECT_EQ(0, FindCode(table, nullptr));
+    EXPECT_EQ(0, FindCode(nullptr, "one"));
+    EXPECT_EQ(nullptr, FindName(nullptr, 1));
     EXPECT_STREQ("one", FindName(table, 1));
     EXPECT_STREQ("two", FindName(table, 2));
     EXPECT_EQ(nullptr, FindName(table, 7));

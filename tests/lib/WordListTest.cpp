@@ -14,11 +14,12 @@ struct WordCase {
     int place; ///< -1 for nowhere
 };
 
-TEST(WordList, FindsAWordThatABlankTabOrTheEndFollows)
+TEST(WordList, FindsATextThatABlankTabOrTheEndFollows)
 {
     const WordCase cases[] = {{"b", "a b c", 2}, {"a", "a b c", 0},   {"c", "a b c", 4}, {"b", "a\tb\tc", 2},
-                              {"b", "ab b", 3},  {"b", "ba bb b", 6}, {"b", "bc", -1},   {"b", "", -1},
-                              {"", "a b", -1},   {"b", "  b", 2},     {"B", "b", -1},    {"a b", "a b c", 0}};
+                              {"b", "ab b", 1},  {"b", "ba bb b", 4}, {"b", "bc", -1},   {"b", "", -1},
+                              {"", "a b", -1},   {"b", "  b", 2},     {"B", "b", -1},    {"a b", "a b c", 0},
+                              {"bb", "abbb", 2}, {"b", "ba", -1},     {"ab", "ab", 0}};
     for (const WordCase& c : cases) {
         const char* const found = FindWord(c.word, c.list);
         EXPECT_EQ(c.place, found != nullptr ? found - c.list : -1) << c.word << '|' << c.list;
@@ -37,6 +38,7 @@ TEST(WordList, RemovesAWordWithItsBlanks)
     const RemoveCase cases[] = {{"b", "a b c", true, "a c"},      {"a", "a b", true, "b"},
                                 {"b", "a  b", true, "a"},         {"a", "a", true, ""},
                                 {"b", "a b \t b c", true, "a c"}, {"x", "a b ", false, "a b "},
+                                {"b", "ab b", true, "ab"},        {"b", "ab", false, "ab"},
                                 {"a", "ab", false, "ab"},         {"", "a b", false, "a b"}};
     for (const RemoveCase& c : cases) {
         char list[32];
