@@ -37,14 +37,22 @@ void DaysBetweenClosed(benchmark::State& state)
 }
 
 /// Every year between the two, without counting by cycles.
+std::int32_t CountEveryYear()
+{
+    std::int64_t nDays = stepwise::DaysBetween({1, 1, kFar.GetYear()}, kFar, kModern);
+    for (std::int32_t y = kStart.GetYear(); y < kFar.GetYear(); ++y) {
+        nDays += stepwise::YearLength(y, kModern);
+    }
+    return stepwise::Wrap(nDays);
+}
+
 void DaysBetweenStepwise(benchmark::State& state)
 {
+    if (CountEveryYear() != DaysBetween(kStart, kFar)) {
+        state.SkipWithError("the two ways differ");
+    }
     for (auto _ : state) {
-        std::int64_t nDays = 0;
-        for (std::int32_t y = kStart.GetYear(); y < kFar.GetYear(); ++y) {
-            nDays += stepwise::YearLength(y, kModern);
-        }
-        benchmark::DoNotOptimize(nDays);
+        benchmark::DoNotOptimize(CountEveryYear());
     }
 }
 

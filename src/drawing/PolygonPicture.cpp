@@ -16,12 +16,13 @@ constexpr std::int32_t kMargin = 10;
 constexpr Colour kGrey{192, 192, 192};
 constexpr Font kLabelFont{.height = 12};
 
-/// A measure: the line that it is shown on, or the angle's arc, and its label.
+/// A measure: the line that it is shown on, or the ends of the angle's arc, and its label.
 struct Measure {
     Point from;
     Point to;
     std::string label;
     bool bArc = false;
+    Pixel labelAt{};
 };
 
 class PolygonPainter {
@@ -38,14 +39,8 @@ public:
     {
         PaintCircle();
         PaintSides();
-        const std::vector<Measure> measures = Measures();
-        for (const Measure& measure : measures) {
-            if (measure.bArc) {
-                m_labels.AddEllipse(m_centre, m_nWidth / 8.0, m_nHeight / 8.0);
-            } else {
-                m_labels.AddLine(measure.from, measure.to);
-            }
-        }
+        std::vector<Measure> measures = Measures();
+        PlaceLabels(measures);
         for (const Measure& measure : measures) {
             PaintMeasure(measure);
         }
@@ -121,18 +116,47 @@ private:
         };
     }
 
+    /// The label of the arc has a place of its own; the others then keep clear of it.
+    void PlaceLabels(std::vector<Measure>& measures)
+    {
+        for (const Measure& measure : measures) {
+            if (measure.bArc) {
+                m_labels.AddArc(m_centre, m_nWidth / 8.0, m_nHeight / 8.0, measure.from, measure.to);
+            } else {
+                m_labels.AddLine(measure.from, measure.to);
+            }
+        }
+        for (Measure& measure : measures) {
+            if (measure.bArc) {
+                measure.labelAt = m_labels.At(AnglePlace(), measure.label);
+            }
+        }
+        for (Measure& measure : measures) {
+            if (!measure.bArc) {
+                measure.labelAt = m_labels.Beside(measure.from, measure.to, measure.label);
+            }
+        }
+    }
+
+    Point AnglePlace() const
+    {
+        // The two parts of the angle differ: kept.
+        const double a = Direction(18);
+        const double r = m.dInnerRadius / 3.5 * m_dScale;
+        return {m_centre.x + std::sin(m.dAngle / 2 + a) * r, m_centre.y + std::cos(m.dAngle / 2.8 + a) * r};
+    }
+
     void PaintMeasure(const Measure& measure)
     {
         if (measure.bArc) {
-            PaintAngle(measure);
-            return;
+            PaintArc(measure);
+        } else {
+            m_surface.Line(NearestPixel(measure.from), NearestPixel(measure.to), kBlack);
         }
-        m_surface.Line(NearestPixel(measure.from), NearestPixel(measure.to), kBlack);
-        m_surface.Text(m_labels.Beside(measure.from, measure.to, measure.label), measure.label, kLabelFont,
-                       kBlack);
+        m_surface.Text(measure.labelAt, measure.label, kLabelFont, kBlack);
     }
 
-    void PaintAngle(const Measure& measure)
+    void PaintArc(const Measure& measure)
     {
         const double dHalfWidth = m_nWidth / 8.0;
         const double dHalfHeight = m_nHeight / 8.0;
@@ -140,12 +164,6 @@ private:
         const Pixel opposite = NearestPixel({m_centre.x + dHalfWidth, m_centre.y + dHalfHeight});
         m_surface.Arc({corner.x, corner.y, opposite.x, opposite.y}, NearestPixel(measure.from),
                       NearestPixel(measure.to), kBlack);
-        // The two parts of the angle differ: kept.
-        const double a = Direction(18);
-        const double r = m.dInnerRadius / 3.5 * m_dScale;
-        const Point at{m_centre.x + std::sin(m.dAngle / 2 + a) * r,
-                       m_centre.y + std::cos(m.dAngle / 2.8 + a) * r};
-        m_surface.Text(m_labels.Near(at, measure.label), measure.label, kLabelFont, kBlack);
     }
 
     Surface& m_surface;

@@ -36,12 +36,11 @@ public:
         Line(m_centre, m_left, kGrey);
         Line(chordMiddle, bottom, kGrey);
         Line(m_left, m_right, kBlack);
-        Arc(circle);
-        Arc(Box(m_dRadius / 4));
-        m_labels.AddEllipse(m_centre, m_dRadius / 4, m_dRadius / 4);
+        Arc(circle, m_dRadius);
+        Arc(Box(m_dRadius / 4), m_dRadius / 4);
 
         Label(m_labels.Beside(m_left, m_right, LengthText(m.dChord)), LengthText(m.dChord));
-        Label(m_labels.Beside(bottom, chordMiddle, LengthText(m.dSagitta)), LengthText(m.dSagitta));
+        Label(m_labels.Halfway(bottom, chordMiddle, LengthText(m.dSagitta)), LengthText(m.dSagitta));
         Label(m_labels.Beside(m_centre, m_left, LengthText(m.dRadius)), LengthText(m.dRadius));
         const std::string angle = FormatText("%0.2f°"_cp1252, m_input.dValue);
         Label(m_labels.Near(At(0, m_dRadius / 4 + kLabelFont.height), angle), angle);
@@ -71,12 +70,13 @@ private:
 
     /// The sector's part of a circle. Where both ends fall on one pixel the arc is the whole circle, or
     /// nothing.
-    void Arc(const PixelRect& box)
+    void Arc(const PixelRect& box, double r)
     {
         const Pixel left = NearestPixel(m_left);
         const Pixel right = NearestPixel(m_right);
         if (left != right || m_input.dValue > 180) {
             m_surface.Arc(box, left, right, kBlack);
+            m_labels.AddArc(m_centre, r, r, m_left, m_right);
         }
     }
 

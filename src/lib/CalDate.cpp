@@ -37,16 +37,16 @@ CalDate CalDate::operator++(int)
 
 CalDate& CalDate::NextWeekday(std::int32_t nWeekday)
 {
-    const std::int32_t nToday = Weekday();
-    const std::int32_t nDays = nToday > nWeekday ? 7 - nToday + nWeekday : nWeekday - nToday;
-    return *this = AddDays(*this, nWeekday == 0 ? 8 : nDays);
+    const std::int64_t nToday = Weekday();
+    const std::int64_t nDays = nToday > nWeekday ? 7 - nToday + nWeekday : nWeekday - nToday;
+    return *this = AddDays(*this, nWeekday == 0 ? 8 : static_cast<std::int32_t>(nDays));
 }
 
 CalDate& CalDate::PreviousWeekday(std::int32_t nWeekday)
 {
-    const std::int32_t nToday = Weekday();
-    const std::int32_t nDays = nToday < nWeekday ? 7 - nWeekday + nToday : nToday - nWeekday;
-    return *this = AddDays(*this, nWeekday == 0 ? -8 : -nDays);
+    const std::int64_t nToday = Weekday();
+    const std::int64_t nDays = nToday < nWeekday ? 7 - nWeekday + nToday : nToday - nWeekday;
+    return *this = AddDays(*this, nWeekday == 0 ? -8 : static_cast<std::int32_t>(-nDays));
 }
 
 CalInterval operator-(const CalDate& a, const CalDate& b)

@@ -32,7 +32,7 @@ public:
     CalDate operator++(int);
 
     /// To the next or previous day that is the given weekday, 0 days when it is one already; a weekday of 0
-    /// goes 8 days.
+    /// goes 8 days. The days of a number that is no weekday wrap at 32 bits.
     CalDate& NextWeekday(std::int32_t nWeekday);
     CalDate& PreviousWeekday(std::int32_t nWeekday);
 

@@ -42,14 +42,14 @@ CalSpan& CalSpan::operator/=(std::uint32_t nDivisor)
     return *this;
 }
 
-std::uint32_t operator/(const CalSpan& a, const CalSpan& b)
+std::uint64_t operator/(const CalSpan& a, const CalSpan& b)
 {
-    const auto [shorter, longer] = std::minmax({a.DaySeconds(), b.DaySeconds()});
+    const auto [shorter, longer] = std::minmax({a.TotalSeconds(), b.TotalSeconds()});
     return shorter == 0 ? 0 : longer / shorter;
 }
 
-std::uint32_t operator%(const CalSpan& a, const CalSpan& b)
+std::uint64_t operator%(const CalSpan& a, const CalSpan& b)
 {
-    const auto [shorter, longer] = std::minmax({a.DaySeconds(), b.DaySeconds()});
+    const auto [shorter, longer] = std::minmax({a.TotalSeconds(), b.TotalSeconds()});
     return shorter == 0 ? 0 : longer % shorter;
 }

@@ -46,7 +46,7 @@ inline CalSpan operator-(CalSpan a, const CalSpan& b) { return a -= b; }
 inline CalSpan operator*(CalSpan a, std::uint32_t nFactor) { return a *= nFactor; }
 inline CalSpan operator/(CalSpan a, std::uint32_t nDivisor) { return a /= nDivisor; }
 
-/// How often the shorter of two times of day goes into the longer one, and the seconds that remain. Two 0
-/// when the shorter one is 0.
-std::uint32_t operator/(const CalSpan& a, const CalSpan& b);
-std::uint32_t operator%(const CalSpan& a, const CalSpan& b);
+/// How often the shorter of two spans goes into the longer one, and the seconds that remain, by their whole
+/// lengths with the days. Two 0 when the shorter one is 0.
+std::uint64_t operator/(const CalSpan& a, const CalSpan& b);
+std::uint64_t operator%(const CalSpan& a, const CalSpan& b);

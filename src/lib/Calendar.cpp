@@ -251,16 +251,17 @@ CalDate NextMonth(const CalDate& date)
     return {1, static_cast<std::uint16_t>(date.GetMonth() + 1), date.GetYear()};
 }
 
-/// The last day of the month before. Months beyond December have no days, so December is before them all; the
-/// month of the reform ends with its 31st though it has fewer days.
+/// The last day of the month before, whose number is the month's length. Months beyond December have no days,
+/// so December is before them all; October 1582 ends with its 31st though it has fewer days.
 CalDate PreviousMonth(const CalDate& date, CalendarVersion version)
 {
     if (date.GetMonth() <= 1) {
         return YearEnd(std::int64_t{date.GetYear()} - 1);
     }
     const auto nMonth = static_cast<std::uint16_t>(std::min(date.GetMonth() - 1, 12));
-    const bool bReform = version != CalendarVersion::Old && InReformMonth(nMonth, date.GetYear());
-    const std::int32_t nDay = bReform ? 31 : MonthDays(nMonth, date.GetYear(), version);
+    const bool bOctober1582 =
+        nMonth == kReformOf1582.lastOld.GetMonth() && date.GetYear() == kReformOf1582.lastOld.GetYear();
+    const std::int32_t nDay = bOctober1582 ? 31 : MonthDays(nMonth, date.GetYear(), version);
     return {static_cast<std::uint16_t>(nDay), nMonth, date.GetYear()};
 }
 

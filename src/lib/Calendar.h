@@ -50,7 +50,9 @@ std::int32_t DaysBetween(const CalDate& first, const CalDate& second,
 
 /// The date `nDays` later, or earlier when negative: whole years, then whole months, then days. The days of
 /// the last step are only added to the day, so a walk that ends inside the month of the reform does not jump
-/// the gap: 1.10.1582 and 5 days is 6.10.1582.
+/// the gap: 1.10.1582 and 5 days is 6.10.1582. A step back goes to the last day of the month before: the 31st
+/// for October 1582, for every other month, those of the other reforms among them, the day whose number is
+/// the length of the month: 18.9.1752 in region 6 and 47.2.1700 in regions 2 to 5.
 CalDate AddDays(const CalDate& date, std::int32_t nDays, CalendarVersion version = CalendarVersion::Modern);
 
 /// 1 Monday to 7 Sunday; 0 inside the gap (not in the Old version).

@@ -24,7 +24,6 @@ double CExpressionEvaluator::Evaluate(const char* pszExpression)
         return kNoValue;
     }
     m_nError = 0;
-    m_nNesting = 0;
     double dValue = kNoValue;
     try {
         // Lengths are 32 bits wide.

@@ -19,8 +19,9 @@ struct ExprResult {
 /// Turns one line of text, an arithmetic, logical or date expression, into a double. A recursive descent that
 /// reads straight from the text; failures travel as a thrown ErrCode, which Evaluate alone catches.
 ///
-/// Text of any length is taken, in time proportional to its length times the depth of its brackets. Brackets
-/// nested deeper than kDeepestNesting, which no input field holds, end as ErrCode::OpenBracket.
+/// Text of any length is taken, in time and memory proportional to its length times the depth of its
+/// brackets: each bracket that is open keeps a copy of what it holds. Brackets nested deeper than
+/// kDeepestNesting, which no input field holds, end as ErrCode::OpenBracket.
 ///
 /// Result and message texts live in static buffers: not for more than one thread.
 class CExpressionEvaluator {
@@ -59,10 +60,10 @@ public:
     int StoreResultIn(int nCell);
 
 protected:
-    /// Called for an identifier that is not in the function table, with the text from it on. True if it took
-    /// the text: `result` then holds value and length.
+    /// Called for an identifier that is not in the function table, with the text from it on and the table's
+    /// last row as the token. True if it took the text: `result` then holds value and length.
     virtual bool HandleFunction(const char* pszText, ExprResult& result);
-    /// The text of a value for an unknown format name, or null.
+    /// The text of a value for an unknown format name, or null. It may stand in the buffer of Format.
     virtual const char* FormatCustom(const char* pszFormat, double dValue);
 
     /// Reads a bracket: an expression, or with `nArgs` other than 0 a comma list. For derived classes too.

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -97,7 +98,9 @@ const char* CExpressionEvaluator::Format(double dValue)
         }
     }
     const char* const pszCustom = FormatCustom(m_pszFormat, dValue);
-    Print("%s", pszCustom != nullptr ? pszCustom : "(null)");
+    // The text may stand in the buffer that it is printed into.
+    const std::string text = pszCustom != nullptr ? pszCustom : "(null)";
+    Print("%s", text.c_str());
     return g_szResult;
 }
 

@@ -27,6 +27,24 @@ double Quotient(double a, double b)
     return a / b;
 }
 
+/// One level of brackets deeper while it lives, however that ends.
+class Deeper {
+public:
+    explicit Deeper(int& nNesting) : m_nNesting(nNesting)
+    {
+        if (nNesting >= CExpressionEvaluator::kDeepestNesting) {
+            throw ErrCode::OpenBracket;
+        }
+        ++m_nNesting;
+    }
+    ~Deeper() { --m_nNesting; }
+    Deeper(const Deeper&) = delete;
+    Deeper& operator=(const Deeper&) = delete;
+
+private:
+    int& m_nNesting;
+};
+
 constexpr int kLoosestLevel = 1;
 
 /// The six levels of operators from the loosest to the tightest. Operators of one level have equal rank and
@@ -148,10 +166,7 @@ void CExpressionEvaluator::ReadBracket(const char* psz, ExprResult& result)
     }
     std::string content;
     const char* const pszEnd = CopyBracket(psz + open.nLength, content);
-    if (m_nNesting >= kDeepestNesting) {
-        throw ErrCode::OpenBracket;
-    }
-    ++m_nNesting; // an error on the way ends the evaluation and need not lower it again
+    const Deeper deeper(m_nNesting);
     if (result.nArgs == 0) {
         ExprResult inner;
         ReadExpression(content.c_str(), inner);
@@ -159,7 +174,6 @@ void CExpressionEvaluator::ReadBracket(const char* psz, ExprResult& result)
     } else {
         ReadArguments(content.c_str(), result);
     }
-    --m_nNesting;
     result.nLength = static_cast<std::uint32_t>(pszEnd - psz);
 }
 

@@ -48,11 +48,11 @@ void CExpressionEvaluator::ReadName(const char* psz, ExprResult& result)
 {
     const ExprName name = FindExprName(psz);
     const ExprFunction& function = ExprFunctions()[name.nRow];
+    result.nToken = name.nRow;
     if (function.nId == kIdNone) {
         ReadUnknownName(psz, result);
         return;
     }
-    result.nToken = name.nRow;
     result.nLength = 0;
     CallFunction(function, psz + name.nLength, result);
     result.nLength += name.nLength;

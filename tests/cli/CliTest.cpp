@@ -69,7 +69,7 @@ TEST_F(CommandLine, WhatIsNotUnderstoodEndsWithTwoAndNamesTheWord)
         {"draw --picture section --size 10x10 -o x.bmp", "x.bmp"},
         {"import", "import"},
         {"export", "export"},
-        {"export zemax", "zemax"},
+        {"export nothing2", "nothing2"},
         {"rays --mode parallel --pointer +-1,2", "+-1,2"},
         {"draw --picture summary --size 10x10 --zoom 2 -o x.png", "--zoom"},
         {"draw --picture polygon --size 10x10 --value 2 -o x.png", "--value"},
@@ -296,6 +296,30 @@ TEST_F(CommandLine, CalcAnswersEachLineOfStandardInput)
     EXPECT_EQ("2.000000", lines[0]);
     EXPECT_EQ("6.000000", lines[2]);
     EXPECT_EQ("", Cli("calc", "").out);
+}
+
+TEST_F(CommandLine, CalcAnswersAnEmptyLineWithItsMessage)
+{
+    const CliRun run = Cli("calc", "\n1\n");
+    EXPECT_EQ("No input data.\n1.000000\n", run.out);
+    EXPECT_EQ(1, run.status);
+    EXPECT_EQ("No input data.\n", Cli("calc ''").out);
+}
+
+TEST_F(CommandLine, CalcPutsControlCharactersOutAsTheyAre)
+{
+    // The code of `)` is 271, whose low eight bits are 15.
+    EXPECT_EQ("Unknown character [ \x0F ].\n", Cli("calc '1)'").out);
+    // Above 0x7F the codes of the open places of the code page stand for control characters.
+    EXPECT_EQ("Unknown character [ \xC2\x81 ].\n", Cli("calc", "1\xC2\x81").out);
+    EXPECT_EQ("1.000000\n", Cli("calc", "1\r\n").out) << "a carriage return is a blank of the line";
+}
+
+TEST_F(CommandLine, CalcTakesAByteOf0ForAQuestionMark)
+{
+    const CliRun run = Cli("calc", std::string("1\0+1\n2\n", 7));
+    EXPECT_EQ("Unknown character [ ? ].\n2.000000\n", run.out);
+    EXPECT_EQ(1, run.status);
 }
 
 TEST_F(CommandLine, CalcTakes1023Characters)

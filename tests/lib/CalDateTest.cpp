@@ -2,9 +2,12 @@
 #include "lib/CalInterval.h"
 #include "lib/CalSpan.h"
 #include "lib/CalTime.h"
+#include "lib/Calendar.h"
 #include "lib/LocalTime.h"
 
 #include <gtest/gtest.h>
+
+#include <limits>
 
 namespace {
 
@@ -98,6 +101,24 @@ TEST(CalDate, StepsToAWeekday)
     EXPECT_EQ(CalDate(26, 12, 2004), previous(7));
     EXPECT_EQ(saturday, previous(6));
     EXPECT_EQ(CalDate(24, 12, 2004), previous(0));
+}
+
+TEST(CalDate, WrapsTheDaysToANumberThatIsNoWeekday)
+{
+    constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
+    // Zeller by hand for 1.3.-99: K = -99, J = 0, (10 + 1 - 99 - 24 + 5) % 7 = -107 % 7 = -2, less 1.
+    const CalDate below(1, 3, -99);
+    ASSERT_EQ(-3, below.Weekday());
+    // 2147483647 + 3 is -2147483646 in 32 bits.
+    EXPECT_EQ(AddDays(below, -2147483646), CalDate(below).NextWeekday(kMax));
+    // 7 - (-3) - 2147483648.
+    EXPECT_EQ(AddDays(below, -2147483638), CalDate(below).NextWeekday(kMin));
+    const CalDate saturday(1, 1, 2005);
+    // 6 + 2147483648 days back: 2147483642 forward in 32 bits.
+    EXPECT_EQ(AddDays(saturday, 2147483642), CalDate(saturday).PreviousWeekday(kMin));
+    // 7 - 2147483647 + 6 days back.
+    EXPECT_EQ(AddDays(saturday, 2147483634), CalDate(saturday).PreviousWeekday(kMax));
 }
 
 TEST(CalDate, KnowsLeapYears)
@@ -269,10 +290,22 @@ TEST(CalSpan, CalculatesInSeconds)
     ExpectSpan(CalSpan(1, 13, 0, 0) * 2, 3, 2, 0, 0);
     ExpectSpan(CalSpan(3, 13, 0, 0) / 2, 3, 6, 30, 0);
     ExpectSpan(CalSpan(3, 13, 0, 0) / 0, 0, 0, 0, 0);
-    EXPECT_EQ(2u, CalSpan(5, 1, 0, 0) / CalSpan(0, 0, 25, 0));
+}
+
+TEST(CalSpan, DividesTheLongerByTheShorterWithTheirDays)
+{
+    // 5 days and an hour are 7260 minutes, 290 * 25 and 10 more.
+    EXPECT_EQ(290u, CalSpan(5, 1, 0, 0) / CalSpan(0, 0, 25, 0));
+    EXPECT_EQ(290u, CalSpan(0, 0, 25, 0) / CalSpan(5, 1, 0, 0));
     EXPECT_EQ(600u, CalSpan(0, 0, 25, 0) % CalSpan(5, 1, 0, 0));
-    EXPECT_EQ(0u, CalSpan(5, 1, 0, 0) / CalSpan(7, 0, 0, 0));
-    EXPECT_EQ(0u, CalSpan(5, 1, 0, 0) % CalSpan(7, 0, 0, 0));
+    // 168 hours over 121.
+    EXPECT_EQ(1u, CalSpan(5, 1, 0, 0) / CalSpan(7, 0, 0, 0));
+    EXPECT_EQ(47u * 3600u, CalSpan(5, 1, 0, 0) % CalSpan(7, 0, 0, 0));
+    // More than 32 bits of seconds: 65535 * 86400 + 86399.
+    EXPECT_EQ(5662310399u, CalSpan(65535, 23, 59, 59) / CalSpan(0, 0, 0, 1));
+    EXPECT_EQ(5662310399u % 4294967297u, CalSpan(65535, 23, 59, 59) % CalSpan(49710, 6, 28, 17));
+    EXPECT_EQ(0u, CalSpan(5, 1, 0, 0) / CalSpan());
+    EXPECT_EQ(0u, CalSpan(5, 1, 0, 0) % CalSpan());
 }
 
 } // namespace

@@ -144,6 +144,69 @@ TEST(Moon, FindsThePhasesNearTheKnownOnes)
     }
 }
 
+TEST(Moon, FindsThePhasesOfTheFormulaFarAway)
+{
+    struct Case {
+        CalDate date;
+        MoonPhase phase;
+        CalDate found;
+    };
+    // Evaluated from the formula, the days counted month by month, outside of this program.
+    const Case kCases[] = {{{1, 1, 2000}, MoonPhase::New, {6, 1, 2000}},
+                           {{1, 1, 2000}, MoonPhase::FirstQuarter, {13, 1, 2000}},
+                           {{1, 1, 2000}, MoonPhase::Full, {20, 1, 2000}},
+                           {{1, 1, 2000}, MoonPhase::LastQuarter, {28, 1, 2000}},
+                           {{15, 6, 1066}, MoonPhase::New, {24, 6, 1066}},
+                           {{15, 6, 1066}, MoonPhase::FirstQuarter, {2, 7, 1066}},
+                           {{15, 6, 1066}, MoonPhase::Full, {9, 7, 1066}},
+                           {{15, 6, 1066}, MoonPhase::LastQuarter, {17, 6, 1066}},
+                           {{24, 12, 800}, MoonPhase::New, {19, 12, 800}},
+                           {{24, 12, 800}, MoonPhase::FirstQuarter, {26, 12, 800}},
+                           {{24, 12, 800}, MoonPhase::Full, {3, 1, 801}},
+                           {{24, 12, 800}, MoonPhase::LastQuarter, {10, 1, 801}},
+                           {{4, 7, 1776}, MoonPhase::New, {15, 7, 1776}},
+                           {{4, 7, 1776}, MoonPhase::FirstQuarter, {22, 7, 1776}},
+                           {{4, 7, 1776}, MoonPhase::Full, {30, 7, 1776}},
+                           {{4, 7, 1776}, MoonPhase::LastQuarter, {8, 7, 1776}},
+                           {{1, 1, 1583}, MoonPhase::New, {22, 1, 1583}},
+                           {{1, 1, 1583}, MoonPhase::FirstQuarter, {30, 1, 1583}},
+                           {{1, 1, 1583}, MoonPhase::Full, {8, 1, 1583}},
+                           {{1, 1, 1583}, MoonPhase::LastQuarter, {15, 1, 1583}},
+                           {{31, 12, 1999}, MoonPhase::New, {6, 1, 2000}},
+                           {{31, 12, 1999}, MoonPhase::FirstQuarter, {13, 1, 2000}},
+                           {{31, 12, 1999}, MoonPhase::Full, {20, 1, 2000}},
+                           {{31, 12, 1999}, MoonPhase::LastQuarter, {28, 1, 2000}},
+                           {{17, 3, 2525}, MoonPhase::New, {24, 3, 2525}},
+                           {{17, 3, 2525}, MoonPhase::FirstQuarter, {1, 4, 2525}},
+                           {{17, 3, 2525}, MoonPhase::Full, {8, 4, 2525}},
+                           {{17, 3, 2525}, MoonPhase::LastQuarter, {15, 4, 2525}},
+                           {{9, 11, 9999}, MoonPhase::New, {31, 12, 9999}},
+                           {{9, 11, 9999}, MoonPhase::FirstQuarter, {7, 1, 10000}},
+                           {{9, 11, 9999}, MoonPhase::Full, {15, 1, 10000}},
+                           {{9, 11, 9999}, MoonPhase::LastQuarter, {22, 1, 10000}},
+                           {{20, 2, -44}, MoonPhase::New, {29, 2, -45}},
+                           {{20, 2, -44}, MoonPhase::FirstQuarter, {7, 3, -45}},
+                           {{20, 2, -44}, MoonPhase::Full, {15, 3, -45}},
+                           {{20, 2, -44}, MoonPhase::LastQuarter, {22, 3, -45}},
+                           {{1, 5, -4000}, MoonPhase::New, {26, 4, -4001}},
+                           {{1, 5, -4000}, MoonPhase::FirstQuarter, {3, 5, -4001}},
+                           {{1, 5, -4000}, MoonPhase::Full, {10, 5, -4001}},
+                           {{1, 5, -4000}, MoonPhase::LastQuarter, {18, 5, -4001}},
+                           {{12, 8, 60000}, MoonPhase::New, {23, 11, 60001}},
+                           {{12, 8, 60000}, MoonPhase::FirstQuarter, {30, 11, 60001}},
+                           {{12, 8, 60000}, MoonPhase::Full, {8, 12, 60001}},
+                           {{12, 8, 60000}, MoonPhase::LastQuarter, {15, 12, 60001}},
+                           {{6, 6, 3200}, MoonPhase::New, {3, 7, 3200}},
+                           {{6, 6, 3200}, MoonPhase::FirstQuarter, {11, 6, 3200}},
+                           {{6, 6, 3200}, MoonPhase::Full, {18, 6, 3200}},
+                           {{6, 6, 3200}, MoonPhase::LastQuarter, {25, 6, 3200}}};
+    for (const Case& c : kCases) {
+        const CalDate found = MoonPhaseDate(c.date, c.phase);
+        EXPECT_TRUE(c.found == found) << c.date.GetYear() << ": " << found.GetDay() << "." << found.GetMonth()
+                                      << "." << found.GetYear();
+    }
+}
+
 TEST(Moon, AnswersAnyYear)
 {
     for (const std::int32_t nYear : {kMin, -1, 0, 1582, 3268, kMax}) {
@@ -152,39 +215,51 @@ TEST(Moon, AnswersAnyYear)
     }
 }
 
-TEST(CalendarNames, AreEnglishAndGerman)
+TEST(CalendarNames, AreThoseOfTheTables)
 {
+    constexpr const char* kWeekdays[][4] = {
+        {"Monday", "Montag", "Mon", "Mo"},      {"Tuesday", "Dienstag", "Tue", "Di"},
+        {"Wednesday", "Mittwoch", "Wed", "Mi"}, {"Thursday", "Donnerstag", "Thu", "Do"},
+        {"Friday", "Freitag", "Fri", "Fr"},     {"Saturday", "Samstag", "Sat", "Sa"},
+        {"Sunday", "Sonntag", "Sun", "So"}};
+    constexpr const char* kMonths[][4] = {{"January", "Januar", "Jan", "Jan"},
+                                          {"February", "Februar", "Feb", "Feb"},
+                                          {"March", "Maerz", "Mar", "Maer"},
+                                          {"April", "April", "Apr", "Apr"},
+                                          {"May", "Mai", "May", "Mai"},
+                                          {"June", "Juni", "Jun", "Jun"},
+                                          {"July", "Juli", "Jul", "Jul"},
+                                          {"August", "August", "Aug", "Aug"},
+                                          {"September", "September", "Sep", "Sep"},
+                                          {"October", "Oktober", "Oct", "Okt"},
+                                          {"November", "November", "Nov", "Nov"},
+                                          {"December", "Dezember", "Dec", "Dez"}};
+    constexpr const char* kWords[][2] = {
+        {"day", "Tag"},           {"month", "Monat"}, {"year", "Jahr"},      {"week", "Woche"},
+        {"weekday", "Wochentag"}, {"hour", "Stunde"}, {"minute", "Minute"},  {"second", "Sekunde"},
+        {"yesterday", "gestern"}, {"today", "heute"}, {"tomorrow", "morgen"}};
     char szName[kNameWidth];
-    WeekdayName(1, szName, 1);
-    EXPECT_STREQ("Monday", szName);
-    WeekdayName(7, szName, 2);
-    EXPECT_STREQ("Sonntag", szName);
-    WeekdayName(3, szName, 0);
-    EXPECT_STREQ("Wednesday", szName) << "language 0 means 1";
-    MonthName(3, szName, 2);
-    EXPECT_STREQ("Maerz", szName);
-    MonthName(12, szName, 1);
-    EXPECT_STREQ("December", szName);
-
     char szShort[kShortNameWidth];
-    ShortWeekdayName(1, szShort, 1);
-    EXPECT_STREQ("Mon", szShort);
-    ShortWeekdayName(7, szShort, 2);
-    EXPECT_STREQ("So", szShort);
-    ShortMonthName(3, szShort, 2);
-    EXPECT_STREQ("Maer", szShort);
-    ShortMonthName(12, szShort, 2);
-    EXPECT_STREQ("Dez", szShort);
-
-    constexpr const char* kGerman[] = {"Tag",    "Monat",   "Jahr",    "Woche", "Wochentag", "Stunde",
-                                       "Minute", "Sekunde", "gestern", "heute", "morgen"};
     char szWord[kWordWidth];
-    for (int i = 0; i < 11; ++i) {
-        CalendarWord(i, szWord, 2);
-        EXPECT_STREQ(kGerman[i], szWord);
+    for (int nLanguage = 0; nLanguage <= 2; ++nLanguage) {
+        const int nColumn = nLanguage == 2 ? 1 : 0;
+        for (int i = 1; i <= 7; ++i) {
+            WeekdayName(i, szName, nLanguage);
+            EXPECT_STREQ(kWeekdays[i - 1][nColumn], szName);
+            ShortWeekdayName(i, szShort, nLanguage);
+            EXPECT_STREQ(kWeekdays[i - 1][nColumn + 2], szShort);
+        }
+        for (int i = 1; i <= 12; ++i) {
+            MonthName(i, szName, nLanguage);
+            EXPECT_STREQ(kMonths[i - 1][nColumn], szName);
+            ShortMonthName(i, szShort, nLanguage);
+            EXPECT_STREQ(kMonths[i - 1][nColumn + 2], szShort);
+        }
+        for (int i = 0; i <= 10; ++i) {
+            CalendarWord(i, szWord, nLanguage);
+            EXPECT_STREQ(kWords[i][nColumn], szWord);
+        }
     }
-    CalendarWord(10, szWord, 1);
-    EXPECT_STREQ("tomorrow", szWord);
 }
 
 TEST(CalendarNames, ClearTheTargetWhereThereIsNoName)

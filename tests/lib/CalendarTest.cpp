@@ -27,6 +27,12 @@ CalDate Date(int nDay, int nMonth, std::int32_t nYear)
     return {static_cast<std::uint16_t>(nDay), static_cast<std::uint16_t>(nMonth), nYear};
 }
 
+/// The reform of a region while it lives.
+struct RegionScope {
+    explicit RegionScope(int nRegion) { SetCalendarRegion(nRegion); }
+    ~RegionScope() { SetCalendarRegion(1); }
+};
+
 /// Leaves the reform of 1582 behind.
 class CalendarRegions : public ::testing::TestWithParam<int> {
 protected:
@@ -54,6 +60,19 @@ TEST(Calendar, FollowsTheThreeLeapRules)
         EXPECT_EQ(c.bJulian, JulianLeap(c.nYear)) << c.nYear;
         EXPECT_EQ(c.bReform, ReformLeap(c.nYear)) << c.nYear;
         EXPECT_EQ(c.bModern, ModernLeap(c.nYear)) << c.nYear;
+    }
+}
+
+TEST(Calendar, AgreesWithTheJudgeOnLeapYears)
+{
+    for (const CalendarVersion version : kVersions) {
+        for (std::int32_t nYear = -13000; nYear <= 13000; ++nYear) {
+            ASSERT_EQ(stepwise::LeapYear(nYear, version), IsLeap(nYear, version)) << nYear;
+        }
+        for (std::int32_t i = 0; i < 13000; ++i) {
+            ASSERT_EQ(stepwise::LeapYear(kMin + i, version), IsLeap(kMin + i, version)) << kMin + i;
+            ASSERT_EQ(stepwise::LeapYear(kMax - i, version), IsLeap(kMax - i, version)) << kMax - i;
+        }
     }
 }
 
@@ -142,6 +161,27 @@ TEST(Calendar, AddsDays)
     };
     for (const Case& c : kCases) {
         EXPECT_EQ(c.goal, AddDays(c.date, c.nDays)) << ::testing::PrintToString(c.date) << " " << c.nDays;
+    }
+}
+
+TEST(Calendar, StepsBackIntoOtherReformMonthsByTheirLength)
+{
+    {
+        // 31 - (15 - 1 - 1) = 18 days, so the month ends with its 18th; 1 day back, and the 10 days of 1582.
+        const RegionScope region(6);
+        EXPECT_EQ(18, ModernMonthDays(9, 1752));
+        EXPECT_EQ(-11, DaysBetween({1, 10, 1752}, {18, 9, 1752}));
+        EXPECT_EQ(CalDate(18, 9, 1752), AddDays({1, 10, 1752}, -11));
+        EXPECT_EQ(CalDate(17, 9, 1752), AddDays({1, 10, 1752}, -12));
+        EXPECT_EQ(CalDate(31, 10, 1582), AddDays({1, 11, 1582}, -1)) << "a plain month here";
+    }
+    {
+        // 31 - (2 - 17 - 1) = 47 days.
+        const RegionScope region(2);
+        EXPECT_EQ(47, ModernMonthDays(2, 1700));
+        EXPECT_EQ(-11, DaysBetween({1, 3, 1700}, {47, 2, 1700}));
+        EXPECT_EQ(CalDate(47, 2, 1700), AddDays({1, 3, 1700}, -11));
+        EXPECT_EQ(CalDate(46, 2, 1700), AddDays({1, 3, 1700}, -12));
     }
 }
 

@@ -13,6 +13,7 @@
 #include <initializer_list>
 #include <limits>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -590,6 +591,72 @@ protected:
     }
     const char* FormatCustom(const char* pszFormat, double) override { return pszFormat; }
 };
+
+/// Takes a bracket that fails for 0.
+class Forgiving : public CExpressionEvaluator {
+protected:
+    bool HandleFunction(const char* pszText, ExprResult& result) override
+    {
+        constexpr std::string_view kCall = "safe((1/0))";
+        nRow = result.nToken;
+        if (!std::string_view(pszText).starts_with(kCall)) {
+            return false;
+        }
+        try {
+            ReadBracket(pszText + 4, result);
+        } catch (ErrCode) {
+            result.dValue = 0.0;
+            result.nLength = kCall.size();
+        }
+        return true;
+    }
+
+public:
+    std::uint32_t nRow = 0;
+};
+
+/// Shows an unknown format through a known one, from the first character or from the second one on.
+class Prefixed : public CExpressionEvaluator {
+protected:
+    const char* FormatCustom(const char* pszFormat, double dValue) override
+    {
+        SetFormat("Hex");
+        const char* const pszText = Format(dValue);
+        SetFormat(pszFormat);
+        return std::string_view(pszFormat) == "Tail" ? pszText + 1 : pszText;
+    }
+};
+
+TEST(ExpressionEvaluator, AFunctionOfADerivedClassGetsTheRowOfTheSentinel)
+{
+    Forgiving evaluator;
+    EXPECT_EQ(kInfinity, evaluator.Evaluate("1+foo"));
+    EXPECT_EQ(37u, evaluator.nRow);
+    Derived derived;
+    EXPECT_EQ(kInfinity, derived.Evaluate("twice"));
+    EXPECT_STREQ("Missing parameter for function NOP.", derived.GetErrorText());
+}
+
+TEST(ExpressionEvaluator, AFailureThatADerivedClassCatchesLeavesTheDepthAsItWas)
+{
+    std::string text = "1";
+    for (int i = 0; i <= CExpressionEvaluator::kDeepestNesting; ++i) {
+        text += "+safe((1/0))";
+    }
+    text += "+(1)";
+    Forgiving evaluator;
+    EXPECT_EQ(2.0, evaluator.Evaluate(text.c_str()));
+    EXPECT_EQ(0, evaluator.GetError());
+}
+
+TEST(ExpressionEvaluator, ACustomFormatMayGiveTheTextOfAKnownOne)
+{
+    Prefixed evaluator;
+    evaluator.SetFormat("Whole");
+    EXPECT_STREQ("12ab", evaluator.Format(4779.0));
+    evaluator.SetFormat("Tail");
+    EXPECT_STREQ("2ab", evaluator.Format(4779.0));
+}
 
 TEST(ExpressionEvaluator, ADerivedClassAddsFunctionsAndFormats)
 {

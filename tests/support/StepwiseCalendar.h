@@ -11,6 +11,17 @@ namespace stepwise {
 
 inline std::int32_t Wrap(std::int64_t n) { return static_cast<std::int32_t>(n); }
 
+inline bool LeapYear(std::int64_t y, CalendarVersion version)
+{
+    if (version == CalendarVersion::Old || y < GetCalendarReform().lastOld.GetYear()) {
+        return y > 0 ? y % 4 == 0 : -y % 4 == 1;
+    }
+    if (version == CalendarVersion::Modern && y % 3200 == 0) {
+        return false;
+    }
+    return y % 400 == 0 || (y % 4 == 0 && y % 100 != 0);
+}
+
 inline std::int32_t MonthLength(std::int32_t m, std::int32_t y, CalendarVersion version)
 {
     const CalDate& lastOld = GetCalendarReform().lastOld;
@@ -24,7 +35,7 @@ inline std::int32_t MonthLength(std::int32_t m, std::int32_t y, CalendarVersion 
     case 11:
         return 30;
     case 2:
-        return IsLeap(y, version) ? 29 : 28;
+        return LeapYear(y, version) ? 29 : 28;
     default:
         return m >= 1 && m <= 12 ? 31 : 0;
     }
@@ -33,7 +44,7 @@ inline std::int32_t MonthLength(std::int32_t m, std::int32_t y, CalendarVersion 
 inline std::int32_t YearLength(std::int32_t y, CalendarVersion version)
 {
     if (y != GetCalendarReform().lastOld.GetYear()) {
-        return IsLeap(y, version) ? 366 : 365;
+        return LeapYear(y, version) ? 366 : 365;
     }
     std::int32_t nDays = 0;
     for (std::int32_t m = 1; m <= 12; ++m) {
@@ -150,9 +161,9 @@ inline CalDate AddDays(CalDate date, std::int32_t n, CalendarVersion version)
             return CalDate(31, 12, year(date, -1));
         }
         const CalDate& lastOld = GetCalendarReform().lastOld;
-        const bool bReform =
-            version != CalendarVersion::Old && m == lastOld.GetMonth() && date.GetYear() == lastOld.GetYear();
-        const int nDay = bReform ? 31 : MonthLength(m, date.GetYear(), version);
+        const bool bOctober1582 = version != CalendarVersion::Old && m == 10 && date.GetYear() == 1582 &&
+                                  lastOld == CalDate(4, 10, 1582);
+        const int nDay = bOctober1582 ? 31 : MonthLength(m, date.GetYear(), version);
         return CalDate(static_cast<std::uint16_t>(nDay), static_cast<std::uint16_t>(m), date.GetYear());
     };
     while (step(bForward ? nextMonth() : previousMonth())) {
