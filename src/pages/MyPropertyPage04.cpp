@@ -17,10 +17,17 @@ CMyPropertyPage04::CMyPropertyPage04(COrrevaDoc& doc, QWidget* parent)
     ShowText(ui->minorAxis, texts.minor_axis);
     ui->results->SetColumns(kSecondaryColumns, g_nLanguage);
 
+    // Before the data: the list rests on the degrees.
+    connect(ui->wantedField, &QLineEdit::textChanged, this, [this] { ShowDegrees(TextOf(ui->wantedField)); });
     BindData({ui->wantedField, ui->minorAxis});
-    BindReset(ui->resetWantedField, ui->wantedField, kSecondaryWantedField);
+    BindReset(ui->resetWantedField, ui->wantedField, [this] {
+        const std::string text = ResetNumber(Record(), kSecondaryWantedField);
+        ShowDegrees(text);
+        return text;
+    });
     BindReset(ui->resetMinorAxis, ui->minorAxis, kSecondaryMinorAxis);
     connect(ui->details, &QCheckBox::toggled, this, &CMyPropertyPage04::Refresh);
+    ShowDegrees(TextOf(ui->wantedField));
     Refresh();
 }
 
@@ -30,7 +37,7 @@ void CMyPropertyPage04::OnSetActive()
 {
     CTelescopePage::OnSetActive();
     ShowText(ui->wantedField, ShowNumber(Record(), kSecondaryWantedField));
-    ShowDegrees();
+    ShowDegrees(TextOf(ui->wantedField));
 }
 
 SecondaryTexts CMyPropertyPage04::Texts() const
@@ -40,14 +47,13 @@ SecondaryTexts CMyPropertyPage04::Texts() const
 
 void CMyPropertyPage04::Store() { StoreSecondary(Record(), Texts()); }
 
-void CMyPropertyPage04::ShowDegrees()
+void CMyPropertyPage04::ShowDegrees(const std::string& wantedField)
 {
-    ShowText(ui->wantedDegrees, WantedFieldDegrees(Record(), TextOf(ui->wantedField)));
+    ShowText(ui->wantedDegrees, WantedFieldDegrees(Record(), wantedField));
 }
 
 void CMyPropertyPage04::Refresh()
 {
-    ShowDegrees();
     const SecondaryResult result = AnalyseSecondary(Record(), Texts(), ui->details->isChecked(), g_nLanguage);
     ui->results->SetRows(result.rows);
     ui->verdict->setText(ToQString(result.verdict));

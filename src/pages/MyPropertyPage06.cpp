@@ -19,12 +19,19 @@ CMyPropertyPage06::CMyPropertyPage06(COrrevaDoc& doc, QWidget* parent)
     ShowText(ui->distanceFront, texts.distance_front);
     ui->results->SetColumns(kTubeColumns, g_nLanguage);
 
+    // Before the data: the list rests on the degrees.
+    connect(ui->wantedField, &QLineEdit::textChanged, this, [this] { ShowDegrees(TextOf(ui->wantedField)); });
     BindData({ui->wantedField, ui->insideDiameter, ui->thickness, ui->distanceBack, ui->distanceFront});
-    BindReset(ui->resetWantedField, ui->wantedField, kTubeWantedField);
+    BindReset(ui->resetWantedField, ui->wantedField, [this] {
+        const std::string text = ResetNumber(Record(), kTubeWantedField);
+        ShowDegrees(text);
+        return text;
+    });
     BindReset(ui->resetInsideDiameter, ui->insideDiameter, kTubeInsideDiameter);
     BindReset(ui->resetThickness, ui->thickness, kTubeThickness);
     BindReset(ui->resetDistanceBack, ui->distanceBack, kTubeDistanceBack);
     BindReset(ui->resetDistanceFront, ui->distanceFront, kTubeDistanceFront);
+    ShowDegrees(TextOf(ui->wantedField));
     Refresh();
 }
 
@@ -34,7 +41,7 @@ void CMyPropertyPage06::OnSetActive()
 {
     CTelescopePage::OnSetActive();
     ShowText(ui->wantedField, ShowNumber(Record(), kTubeWantedField));
-    ShowDegrees();
+    ShowDegrees(TextOf(ui->wantedField));
 }
 
 void CMyPropertyPage06::OnApply()
@@ -51,13 +58,9 @@ TubeTexts CMyPropertyPage06::Texts() const
 
 void CMyPropertyPage06::Store() { StoreTube(Record(), Texts()); }
 
-void CMyPropertyPage06::ShowDegrees()
+void CMyPropertyPage06::ShowDegrees(const std::string& wantedField)
 {
-    ShowText(ui->wantedDegrees, WantedFieldDegrees(Record(), TextOf(ui->wantedField)));
+    ShowText(ui->wantedDegrees, WantedFieldDegrees(Record(), wantedField));
 }
 
-void CMyPropertyPage06::Refresh()
-{
-    ShowDegrees();
-    ui->results->SetRows(TubeRows(Record(), Texts(), g_nLanguage));
-}
+void CMyPropertyPage06::Refresh() { ui->results->SetRows(TubeRows(Record(), Texts(), g_nLanguage)); }

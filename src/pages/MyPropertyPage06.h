@@ -27,7 +27,7 @@ protected:
 
 private:
     TubeTexts Texts() const;
-    void ShowDegrees();
+    void ShowDegrees(const std::string& wantedField);
 
     std::unique_ptr<Ui::MyPropertyPage06> ui;
 };
