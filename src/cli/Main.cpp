@@ -2,6 +2,7 @@
 #include "cli/Verbs.h"
 #include "cli/Words.h"
 #include "lib/Language.h"
+#include "lib/Log.h"
 
 #include <csignal>
 #include <string>
@@ -43,6 +44,7 @@ Exit status: 0 done, 1 a file or an expression failed, 2 the command line is not
 int main(int argc, char** argv)
 {
     std::signal(SIGPIPE, SIG_IGN); // a reader that has seen enough ends the output as a failed write
+    SetLogSink(nullptr);           // standard error is for the user, in a debug build too
     const Words words = TakeApart(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
     if (words.help || words.version) {
         return WriteOutput("", words.help ? kHelp : kVersion);

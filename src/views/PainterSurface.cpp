@@ -217,6 +217,8 @@ const QFont& PainterSurface::DeviceFont(const Font& font)
         lastFont = font;
         deviceFont = QFont(QStringList{"Arial", "Liberation Sans"});
         deviceFont.setPixelSize(PixelSize(font.height));
+        // The code page needs no glyph of another font, and looking for one costs a good part of the start.
+        deviceFont.setStyleStrategy(QFont::NoFontMerging);
         deviceFont.setWeight(font.weight >= Font::kBold ? QFont::Bold : QFont::Normal);
     }
     return deviceFont;

@@ -1,5 +1,6 @@
 #include "cli/ExchangeVerbs.h"
 
+#include "lib/Log.h"
 #include "support/GoldenFile.h"
 #include "support/RecordingHost.h"
 #include "support/TemporaryFolder.h"
@@ -97,9 +98,11 @@ TEST_F(ExchangeVerbs, AFileThatCannotBeWrittenIsToldOnStandardError)
 {
     kTestTelescopes[0].Make(doc);
     const std::string path = folder / "no/such/folder.len";
+    const LogSink before = SetLogSink(nullptr); // a debug build logs to standard error
     testing::internal::CaptureStderr();
     EXPECT_EQ(1, FindExport("oslo")->run(doc, path));
     EXPECT_EQ("orreva-cli: cannot write " + path + "\n", testing::internal::GetCapturedStderr());
+    SetLogSink(before);
 }
 
 } // namespace
