@@ -22,8 +22,9 @@ struct SliderState {
     std::optional<std::int32_t> position;
 };
 
-// The bar's events. Each works on the document's table of trials and its active record, and does nothing while no
-// telescope is loaded. -------------------------------------------------------------------------------------
+// The bar's events. Each works on the document's table of trials and its active record, and does nothing
+// while no telescope is loaded.
+// -------------------------------------------------------------------------------------
 
 /// The list's selection changed: an earlier trial is undone and the chosen parameter put under trial. Nothing
 /// if the selection names no parameter.

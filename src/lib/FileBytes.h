@@ -8,8 +8,8 @@
 /// What is read of a file when nothing else is said.
 inline constexpr std::size_t kMostFileBytes = std::size_t{1} << 30;
 
-/// All bytes of a file, at most `limit` of them; nothing if it is no readable regular file: a pipe that nobody
-/// fills would be waited for, and a device may have no end.
+/// All bytes of a file, at most `limit` of them; nothing if it is no readable regular file: a pipe that
+/// nobody fills would be waited for, and a device may have no end.
 std::optional<std::string> ReadFileBytes(const char* pszPath, std::size_t limit = kMostFileBytes);
 
 /// The new contents of a file, written piece by piece beside it. The file is replaced whole by Commit or left
@@ -35,6 +35,6 @@ private:
     bool good = false;
 };
 
-/// Replaces a file whole or not at all, which takes the right to write into its folder. A file that may not be written, a directory, a missing folder or a
-/// full disk leave everything as it was. False on failure.
+/// Replaces a file whole or not at all, which takes the right to write into its folder. A file that may not
+/// be written, a directory, a missing folder or a full disk leave everything as it was. False on failure.
 bool ReplaceFile(const char* pszPath, std::string_view bytes);
