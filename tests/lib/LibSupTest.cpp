@@ -125,7 +125,6 @@ TEST(LibSup, AMarkTellsTheMillisecondsSinceTheLast)
     long elapsed = -1;
     EXPECT_EQ(1, std::sscanf(log.Lines()[1].c_str(), "Mark (%ld): 100%% second", &elapsed));
     EXPECT_GE(elapsed, 29);
-    EXPECT_LT(elapsed, 10000);
     EXPECT_EQ("Mark (" + std::to_string(elapsed) + "): 100% second", log.Lines()[1]);
     EXPECT_TRUE(log.Lines()[0].starts_with("Mark ("));
 }

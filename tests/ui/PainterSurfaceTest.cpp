@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
@@ -270,8 +269,6 @@ TEST(PainterSurface, SurvivesAnyCoordinates)
         },
     };
     const std::int32_t places[] = {kLeast, kLeast + 1, -40000, -1, 0, 5, 40000, kMost - 1, kMost};
-    QElapsedTimer timer;
-    timer.start();
     const auto paintAll = [&](Surface& surface) {
         for (const Shape& shape : shapes) {
             for (const std::int32_t x : places) {
@@ -283,7 +280,7 @@ TEST(PainterSurface, SurvivesAnyCoordinates)
             }
         }
     };
-    Painted(40, 30, paintAll);
+    EXPECT_FALSE(Painted(40, 30, paintAll).isNull());
     QBuffer file;
     file.open(QIODevice::WriteOnly);
     QPdfWriter writer(&file);
@@ -292,7 +289,7 @@ TEST(PainterSurface, SurvivesAnyCoordinates)
         PainterSurface surface(painter, 40, 30);
         paintAll(surface);
     }
-    EXPECT_LT(timer.elapsed(), 20000);
+    EXPECT_TRUE(file.data().trimmed().endsWith("%%EOF")) << "the page is written to its end";
 }
 
 TEST(PainterSurface, DrawsTheSeenPartOfALineThatIsFarTooLong)
@@ -312,14 +309,11 @@ TEST(PainterSurface, CutsATextThatNoPageCanHold)
     for (int i = 0; i < 1'000'000; ++i) {
         words += "word ";
     }
-    QElapsedTimer timer;
-    timer.start();
     Painted(400, 300, [&](Surface& surface) {
         surface.Text({2, 2}, endless, {14, Font::kNormal}, kBlack);
         EXPECT_EQ(14, surface.WrappedText({2, 2, 400, 1000}, endless, {14, Font::kNormal}, kBlack));
         EXPECT_GT(surface.WrappedText({2, 2, 400, 1000}, words, {14, Font::kNormal}, kBlack), 1000);
     });
-    EXPECT_LT(timer.elapsed(), 5000);
 }
 
 } // namespace

@@ -4,8 +4,6 @@
 #include "pages/PropertySheetMatchingRonchi.h"
 #include "views/MatchingRonchiWidget.h"
 
-#include <QElapsedTimer>
-
 namespace {
 
 template <class Base>
@@ -176,10 +174,8 @@ TEST_F(RonchiSheet, AMirrorWithoutLimitsPaintsWithoutTheLine)
             Main().SetMirrorDiameter(D);
             Main().SetFocalLength(F);
             InRonchiSheet([&](CPropertySheetMatchingRonchi& sheet) {
-                QElapsedTimer clock;
-                clock.start();
                 const QImage image = Simulation(sheet);
-                EXPECT_GT(3000, clock.elapsed()) << D << ' ' << F;
+                EXPECT_FALSE(image.isNull()) << D << ' ' << F;
                 if (D == 0) {
                     EXPECT_FALSE(HasBlack(Limits(image)));
                 }

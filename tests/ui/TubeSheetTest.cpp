@@ -8,7 +8,6 @@
 #include "views/TubePanel.h"
 
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QRadioButton>
 
@@ -506,10 +505,8 @@ TEST_F(TubeSheet, ThePanelStandsAtTheRightOnTheSheetsBackground)
     });
 }
 
-TEST_F(TubeSheet, OddTextsInAnyFieldAreSurvivedAtOnce)
+TEST_F(TubeSheet, OddTextsInAnyFieldAreSurvived)
 {
-    QElapsedTimer clock;
-    clock.start();
     int changes = 0;
     for (const int type : {0, 1}) {
         Main().SetTubeType(type);
@@ -532,7 +529,6 @@ TEST_F(TubeSheet, OddTextsInAnyFieldAreSurvivedAtOnce)
         });
     }
     EXPECT_EQ(15 * (5 + 1 + 5 + 4), changes);
-    EXPECT_GT(300, clock.elapsed() / changes) << "ms a change, two repaints of all included";
 }
 
 } // namespace
