@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/HelpKey.h"
 #include "app/QtHost.h"
 #include "document/OrrevaDoc.h"
 
@@ -42,6 +43,7 @@ private:
     bool ProcessShellCommand(const QStringList& arguments);
 
     CQtHost host;
+    HelpKey helpKey;
     std::unique_ptr<COrrevaDoc> document;
     std::unique_ptr<CMainFrame> frame;
     std::vector<std::unique_ptr<QTranslator>> translators;

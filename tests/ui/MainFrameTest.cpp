@@ -481,6 +481,20 @@ TEST_F(MainFrame, HelpOpensItsPages)
     EXPECT_NE(helpPages[0], helpPages[1]);
 }
 
+TEST_F(MainFrame, F1InADialogAsksForHelpOnIt)
+{
+    MakeTelescope();
+    for (const int command : {57664, 32779, 32789}) {
+        InDialogOf(command,
+                   [](QDialog& dialog) { QTest::keyClick(dialog.findChild<QWidget*>(), Qt::Key_F1); });
+    }
+    Choose(32810);
+    ASSERT_EQ(4u, helpPages.size());
+    EXPECT_TRUE(helpPages[0].toString().endsWith("Formelsammlung")) << "the about box";
+    EXPECT_EQ(helpPages[3], helpPages[1]) << "a dialog without a page of its own";
+    EXPECT_EQ(helpPages[3], helpPages[2]);
+}
+
 // The what-if bar ------------------------------------------------------------------------------------------
 
 TEST_F(MainFrame, WhatIfBarTriesAParameter)

@@ -1,0 +1,23 @@
+#include "app/HelpKey.h"
+
+#include "pages/Controls.h"
+#include "pages/Help.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+
+HelpKey::HelpKey() { qApp->installEventFilter(this); }
+
+bool HelpKey::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1 &&
+        qobject_cast<QDialog*>(watched) != nullptr) {
+        const QVariant number = watched->property(kDialogId);
+        if (number.isValid()) {
+            WinHelp(number.toInt(), kHelpContext);
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
