@@ -46,7 +46,8 @@ CMainFrame::~CMainFrame() = default;
 
 void CMainFrame::CreateBars()
 {
-    ui->dialogBarBand->addWidget(new CMyDialogBar(document, ui->dialogBarBand));
+    dialogBar = new CMyDialogBar(document, ui->dialogBarBand);
+    ui->dialogBarBand->addWidget(dialogBar);
     new KeyIndicators(*ui->statusBar);
 }
 
@@ -97,6 +98,13 @@ void CMainFrame::BindAccelerators()
 void CMainFrame::SetDocumentTitle(const QString& title)
 {
     setWindowTitle(title.isEmpty() ? QString("Orreva") : title + " - Orreva");
+}
+
+void CMainFrame::Freeze(bool frozen)
+{
+    left->setUpdatesEnabled(!frozen);
+    right->setUpdatesEnabled(!frozen);
+    dialogBar->Freeze(frozen);
 }
 
 void CMainFrame::UpdateAllViews()

@@ -32,6 +32,8 @@ public:
     void SetDocumentTitle(const QString& title);
     /// Repaints both panes and refreshes what the actions show.
     void UpdateAllViews();
+    /// Keeps panes and what-if bar from the record: they neither read nor write it.
+    void Freeze(bool frozen);
 
     /// One command on its way: the active pane, the document, the desktop.
     void OnCommand(int id);
@@ -56,6 +58,7 @@ private:
     std::unique_ptr<Ui::MainFrame> ui;
     CLeftView* left = nullptr;
     COrrevaView* right = nullptr;
+    CMyDialogBar* dialogBar = nullptr;
     CPane* active = nullptr;
     bool closing = false;
 };

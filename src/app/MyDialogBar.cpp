@@ -13,7 +13,8 @@ CMyDialogBar::CMyDialogBar(COrrevaDoc& doc, QWidget* parent)
     }
     ui->parameter->setCurrentIndex(-1);
 
-    connect(ui->parameter, &QComboBox::currentIndexChanged, this,
+    // Also the entry that the list shows may be chosen, to be tried on a telescope that has come since.
+    connect(ui->parameter, &QComboBox::activated, this,
             [this](int selection) { Show(SelectBarParameter(document, selection)); });
     // Kept: the slider writes on its repaint too.
     connect(ui->slider, &CPaintedSlider::Painted, this,
@@ -23,6 +24,8 @@ CMyDialogBar::CMyDialogBar(COrrevaDoc& doc, QWidget* parent)
 }
 
 CMyDialogBar::~CMyDialogBar() = default;
+
+void CMyDialogBar::Freeze(bool frozen) { ui->slider->blockSignals(frozen); }
 
 void CMyDialogBar::Show(const std::optional<SliderState>& state)
 {

@@ -19,6 +19,9 @@ public:
     CMyDialogBar(COrrevaDoc& document, QWidget* parent);
     ~CMyDialogBar() override;
 
+    /// Keeps the slider, whatever repaints it, from writing to the record.
+    void Freeze(bool frozen);
+
 private:
     void Show(const std::optional<SliderState>& state);
 

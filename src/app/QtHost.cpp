@@ -6,13 +6,13 @@
 #include "document/OrrevaDoc.h"
 #include "pages/QuickNewDialog.h"
 #include "pages/RaytracingSettingsDialog.h"
-#include "views/LeftView.h"
-#include "views/OrrevaView.h"
 #include "views/QtText.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 #include <csignal>
@@ -43,20 +43,19 @@ QStringList NameFilters(const char* pipes)
     return filters;
 }
 
-/// Keeps the views from painting while it lives.
-class FrozenViews {
+/// Keeps the main window from the record while it lives.
+class FrozenFrame {
 public:
-    explicit FrozenViews(CMainFrame* mainFrame) : frame(mainFrame) { Freeze(true); }
-    ~FrozenViews() { Freeze(false); }
-    FrozenViews(const FrozenViews&) = delete;
-    FrozenViews& operator=(const FrozenViews&) = delete;
+    explicit FrozenFrame(CMainFrame* mainFrame) : frame(mainFrame) { Freeze(true); }
+    ~FrozenFrame() { Freeze(false); }
+    FrozenFrame(const FrozenFrame&) = delete;
+    FrozenFrame& operator=(const FrozenFrame&) = delete;
 
 private:
     void Freeze(bool frozen) const
     {
         if (frame != nullptr) {
-            frame->LeftView().setUpdatesEnabled(!frozen);
-            frame->RightView().setUpdatesEnabled(!frozen);
+            frame->Freeze(frozen);
         }
     }
 
@@ -117,8 +116,8 @@ std::string CQtHost::AskPath(const FileDialog& mask)
 
 bool CQtHost::AskQuickNew(QuickNewTexts& texts)
 {
-    // The record is reset and waits for its two numbers: a pane that read it now would fix its defaults.
-    const FrozenViews frozen(frame);
+    // The record is reset and waits for its two numbers: who read it now would fix its defaults.
+    const FrozenFrame frozen(frame);
     CQuickNewDialog dialog(texts, ActiveWindow());
     if (dialog.exec() != QDialog::Accepted) {
         return false;

@@ -74,14 +74,19 @@ std::span<const BarParameter> BarParameters() { return kParameters; }
 
 std::optional<SliderState> SelectBarParameter(COrrevaDoc& document, std::int32_t selection)
 {
-    while (const auto trial = CurrentTrial(document)) {
+    const bool named = selection >= 0 && static_cast<std::size_t>(selection) < std::size(kParameters);
+    const auto index = static_cast<std::size_t>(selection);
+    if (named && document.bar_params[index].selected != 0) {
+        return std::nullopt;
+    }
+    if (const auto trial = CurrentTrial(document)) {
         Restore(document, *trial);
-        trial->entry.selected = 0;
+    }
+    for (BarParam& entry : document.bar_params) {
+        entry.selected = 0;
     }
     std::optional<SliderState> state;
-    const bool named = selection >= 0 && static_cast<std::size_t>(selection) < std::size(kParameters);
     if (named && document.HasFile()) {
-        const auto index = static_cast<std::size_t>(selection);
         const double v = Value(document, kParameters[index]);
         document.bar_params[index] = {1, v};
         state = CentredOn(v);

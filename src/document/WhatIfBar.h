@@ -22,12 +22,12 @@ struct SliderState {
     std::optional<std::int32_t> position;
 };
 
-// The bar's events. Each works on the document's table of trials and its active record, and does nothing
-// while no telescope is loaded.
+// The bar's events. Each works on the document's table of trials and its active record. While no telescope
+// is loaded the record stays as it is, and a choice only ends an earlier trial.
 // -------------------------------------------------------------------------------------
 
-/// The list's selection changed: an earlier trial is undone and the chosen parameter put under trial. Nothing
-/// if the selection names no parameter.
+/// The user chose in the list: an earlier trial is undone and the chosen parameter put under trial. Nothing
+/// if the selection names no parameter, or the one that is under trial already.
 std::optional<SliderState> SelectBarParameter(COrrevaDoc& document, std::int32_t selection);
 
 /// The slider told its position, by being dragged or repainted: the parameter under trial takes it at once.

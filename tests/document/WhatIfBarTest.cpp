@@ -146,6 +146,27 @@ TEST_F(WhatIfBar, WithoutATelescopeNothingHappens)
     EXPECT_EQ(HUGE_VAL, data.secondary_diameter);
 }
 
+TEST_F(WhatIfBar, AChoiceWithoutATelescopeEndsAnEarlierTrial)
+{
+    SelectBarParameter(doc, 2);
+    data.Clear();
+    EXPECT_FALSE(SelectBarParameter(doc, 0).has_value());
+    EXPECT_EQ(0, doc.bar_params[2].selected) << "the list does not show it any more";
+    EXPECT_EQ(HUGE_VAL, data.secondary_diameter) << "and nothing goes back into a cleared record";
+    data.Reset();
+    SlideBar(doc, 77);
+    EXPECT_EQ(HUGE_VAL, data.secondary_diameter);
+}
+
+TEST_F(WhatIfBar, TheSameChoiceAgainLeavesTheTrialAlone)
+{
+    SelectBarParameter(doc, 2);
+    SlideBar(doc, 60);
+    EXPECT_FALSE(SelectBarParameter(doc, 2).has_value());
+    EXPECT_EQ(60.0, data.secondary_diameter);
+    EXPECT_DOUBLE_EQ(46.482, doc.bar_params[2].value);
+}
+
 TEST_F(WhatIfBar, ASmallValue)
 {
     data.SetFocuserSpare(1.9);

@@ -4,6 +4,7 @@
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
@@ -35,7 +36,21 @@ bool Shows(QWidget& pane, const QColor& colour)
 const QColor kYellow(255, 255, 0);
 const QColor kGreen(0, 255, 64);
 
-class MainFrame : public AppFixture {};
+class MainFrame : public AppFixture {
+protected:
+    /// Chooses in the what-if bar's list as a user does.
+    void ChooseParameter(int index) const
+    {
+        auto* const list = FindControl<QComboBox>(&app->Frame(), 1026);
+        list->showPopup();
+        QTest::keyClick(list->view(), Qt::Key_Home);
+        for (int i = 0; i < index; ++i) {
+            QTest::keyClick(list->view(), Qt::Key_Down);
+        }
+        QTest::keyClick(list->view(), Qt::Key_Return);
+        ASSERT_EQ(index, list->currentIndex());
+    }
+};
 class MainFrameGerman : public GermanAppFixture {};
 
 struct MenuRow {
@@ -509,7 +524,7 @@ TEST_F(MainFrame, WhatIfBarTriesAParameter)
     EXPECT_EQ("Reset", Text(frame, 1025));
     EXPECT_EQ("Accept ", Text(frame, 1027));
 
-    list->setCurrentIndex(0);
+    ChooseParameter(0);
     EXPECT_EQ(750, slider->minimum());
     EXPECT_EQ(3000, slider->maximum());
     EXPECT_EQ(1500, slider->value());
@@ -526,13 +541,45 @@ TEST_F(MainFrame, WhatIfBarTriesAParameter)
 TEST_F(MainFrame, SliderWritesOnItsRepaintToo)
 {
     MakeTelescope();
-    auto* const list = FindControl<QComboBox>(&app->Frame(), 1026);
     auto* const slider = FindControl<QSlider>(&app->Frame(), 1023);
-    list->setCurrentIndex(2);
+    ChooseParameter(2);
     slider->repaint();
     EXPECT_EQ(46.0, app->Document().main_record.GetSecondaryDiameter());
     Click(app->Frame(), 1025);
     EXPECT_DOUBLE_EQ(46.482, app->Document().bar_params[2].value);
+}
+
+TEST_F(MainFrame, AParameterChosenBeforeTheTelescopeIsTriedWhenItIsChosenAgain)
+{
+    ChooseParameter(0);
+    MakeTelescope();
+    EXPECT_EQ(0, app->Document().bar_params[0].selected);
+    ChooseParameter(0);
+    EXPECT_EQ(1, app->Document().bar_params[0].selected);
+    EXPECT_EQ(1500, FindControl<QSlider>(&app->Frame(), 1023)->value());
+    ChooseParameter(6);
+    EXPECT_EQ(1, app->Document().bar_params[6].selected);
+}
+
+TEST_F(MainFrame, ATrialDoesNotReachTheRecordWhileQuickNewIsOpen)
+{
+    MakeTelescope();
+    ChooseParameter(0);
+    auto* const slider = FindControl<QSlider>(&app->Frame(), 1023);
+    app->Document().main_record.SetModified(0);
+    InNextDialog<QDialog>([this, slider](QDialog& dialog) {
+        QCoreApplication::processEvents();
+        slider->repaint();
+        EXPECT_EQ(HUGE_VAL, app->Document().main_record.inside_diameter_hat);
+        dialog.findChild<QLineEdit*>("aperture")->setText("114");
+        dialog.findChild<QLineEdit*>("focalLength")->setText("900");
+        dialog.accept();
+    });
+    Choose(32771);
+    EXPECT_EQ(900.0, app->Document().main_record.GetFocalLength());
+    EXPECT_DOUBLE_EQ(150.0, app->Document().main_record.GetInsideDiameterHat()) << "114 + 36, not 250 + 36";
+    slider->repaint();
+    EXPECT_EQ(1500.0, app->Document().main_record.GetFocalLength()) << "the trial goes on";
 }
 
 TEST_F(MainFrameGerman, WhatIfBarButtonsAreGermanAndItsListToo)
