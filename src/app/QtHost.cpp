@@ -23,10 +23,36 @@ namespace {
 
 QWidget* ActiveWindow() { return QApplication::activeWindow(); }
 
+/// A question takes its buttons alone for an answer: neither the escape key nor the window's close button
+/// stands for one that loses data. A box that only tells goes by either.
+class MessageBox : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (!IsQuestion() || !event->matches(QKeySequence::Cancel)) {
+            QMessageBox::keyPressEvent(event);
+        }
+    }
+    void closeEvent(QCloseEvent* event) override
+    {
+        if (IsQuestion()) {
+            event->ignore();
+        } else {
+            QMessageBox::closeEvent(event);
+        }
+    }
+
+private:
+    bool IsQuestion() const { return buttons().size() > 1; }
+};
+
 int Box(QMessageBox::Icon icon, const QString& title, const QString& text,
         QMessageBox::StandardButtons buttons)
 {
-    QMessageBox box(icon, title, text, buttons, ActiveWindow());
+    MessageBox box(icon, title, text, buttons, ActiveWindow());
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     return box.exec();

@@ -363,6 +363,9 @@ TEST_F(MainFrame, ClosingAsksWithoutCancelAndClosesEitherWay)
     InNextDialog<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ("Save noname.orreva.xml?", box.text());
         EXPECT_EQ(QMessageBox::Yes | QMessageBox::No, box.standardButtons());
+        QTest::keyClick(&box, Qt::Key_Escape);
+        EXPECT_FALSE(box.close());
+        ASSERT_TRUE(box.isVisible()) << "no key and no frame button stands for No";
         QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
     });
     EXPECT_TRUE(app->Frame().close());
