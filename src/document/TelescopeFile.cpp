@@ -194,7 +194,7 @@ int COrrevaData::Load(const char* path)
     }
     file_path = path;
     SetTitleOfDocument();
-    ReadTelescope(XmlScanner(path), *this);
+    ReadTelescope(XmlScanner(file_path), *this); // `path` may have been the text that is replaced now
     modified = 0;
     return 0;
 }

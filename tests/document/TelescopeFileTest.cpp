@@ -335,6 +335,18 @@ TEST(TelescopeFile, LoadTakesPathTitleAndValues)
     EXPECT_STREQ("a.orreva.xml", data.file_path);
 }
 
+TEST(TelescopeFile, LoadTakesTheRecordsOwnPath)
+{
+    const TemporaryFolder folder;
+    folder.Write("a telescope whose name is longer than a short string.orreva.xml",
+                 "<telescope><title>A</title><mirror><diameter>150</diameter></mirror></telescope>");
+    COrrevaData data;
+    data.file_path = "a telescope whose name is longer than a short string.orreva.xml";
+    EXPECT_EQ(0, data.Load(data.file_path));
+    EXPECT_EQ(150, data.mirror_diameter);
+    EXPECT_STREQ("a telescope whose name is longer than a short string.orreva.xml", data.file_path);
+}
+
 TEST(TelescopeFile, WhatExistsButCannotBeReadGivesZerosAndSucceeds)
 {
     const TemporaryFolder folder;
