@@ -29,7 +29,7 @@
  <message><source>Show the pages as they will be printed</source><comment>prompt</comment><translation>Zeigt die Seiten, wie sie gedruckt werden</translation></message>
  <message><source>Print Preview</source><comment>tooltip</comment><translation>Seitenansicht</translation></message>
  <message><source>Print Setup</source><translation>Drucker&amp;einrichtung...</translation></message>
- <message><source>Choose the printer and its settings</source><comment>prompt</comment><translation>Drucker und seine Einstellungen wählen</translation></message>
+ <message><source>Choose the paper and how it is printed on</source><comment>prompt</comment><translation>Papier und seine Bedruckung wählen</translation></message>
  <message><source>Print Setup</source><comment>tooltip</comment><translation>Druckereinrichtung</translation></message>
  <message><source>E&amp;xit</source><translation>&amp;Beenden</translation></message>
  <message><source>Leave the program</source><comment>prompt</comment><translation>Verlässt das Programm</translation></message>
