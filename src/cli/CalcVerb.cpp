@@ -33,8 +33,7 @@ private:
 };
 
 /// The next line of standard input without its end; nothing behind the last. Of a line that is longer than
-/// the calculator takes no more is kept than shows that it is. A byte of 0, which no text holds, becomes `?`
-/// as any character does that the code page lacks.
+/// the calculator takes no more is kept than shows that it is.
 std::optional<std::string> ReadLine()
 {
     constexpr std::size_t kKept = 4 * (kLongestExpression + 1); // a character is at most four bytes
@@ -45,7 +44,7 @@ std::optional<std::string> ReadLine()
     }
     for (; c != EOF && c != '\n'; c = std::getchar()) {
         if (line.size() < kKept) {
-            line += c != 0 ? static_cast<char>(c) : '?';
+            line += static_cast<char>(c);
         }
     }
     return line;

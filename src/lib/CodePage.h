@@ -5,8 +5,9 @@
 #include <string_view>
 
 /// The core keeps text as bytes of code page 1252. These two are the only crossings to and from UTF-8.
-/// A character that the code page lacks, and a byte that is no UTF-8, become `?`; the five bytes that the
-/// code page leaves open stand for the control character of the same number.
+/// A character that the code page lacks, a byte that is no UTF-8, and a character 0, at which a text of the
+/// core would end, become `?`; the five bytes that the code page leaves open stand for the control character
+/// of the same number.
 std::string Cp1252FromUtf8(std::string_view utf8);
 std::string Utf8FromCp1252(std::string_view bytes);
 
@@ -20,7 +21,7 @@ inline constexpr char16_t kUpperControls[32] = {
 
 constexpr char ByteFor(char32_t character)
 {
-    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
+    if ((character > 0 && character < 0x80) || (character >= 0xA0 && character <= 0xFF)) {
         return static_cast<char>(character);
     }
     for (int i = 0; i < 32; ++i) {

@@ -16,7 +16,7 @@ CCalculatorDialog::~CCalculatorDialog() = default;
 
 void CCalculatorDialog::OnChangeInput()
 {
-    m_strInput = FromQString(ui->input->toPlainText());
+    m_strInput = FromTextEdit(*ui->input);
     m_strResult = Calculate(m_strInput).text;
     ui->result->setText(ToQString(m_strResult));
     ui->result->setCursorPosition(0); // a long number is read from its first digit

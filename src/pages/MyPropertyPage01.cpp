@@ -23,5 +23,5 @@ void CMyPropertyPage01::Store()
 {
     const std::string title = TextOf(ui->title);
     Record().SetTitle(title.empty() ? "Unbenannt" : title.c_str()); // in both languages
-    Record().SetDescription(FromQString(ui->remarks->toPlainText()).c_str());
+    Record().SetDescription(FromTextEdit(*ui->remarks).c_str());
 }

@@ -2,6 +2,9 @@
 
 #include "lib/CodePage.h"
 
+#include <QPlainTextEdit>
+#include <QTextDocument>
+
 QString ToQString(std::string_view cp1252)
 {
     const std::string utf8 = Utf8FromCp1252(cp1252);
@@ -9,3 +12,11 @@ QString ToQString(std::string_view cp1252)
 }
 
 std::string FromQString(const QString& text) { return Cp1252FromUtf8(text.toStdString()); }
+
+std::string FromTextEdit(const QPlainTextEdit& edit)
+{
+    // The plain text would make blanks of the fixed blanks.
+    QString text = edit.document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+    return FromQString(text);
+}

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -32,6 +33,7 @@ TEST(CodePage, WritesWhatItCannotHoldAsAQuestionMark)
     EXPECT_EQ("?", Cp1252FromUtf8("\xFF"));
     EXPECT_EQ("a?b", Cp1252FromUtf8("a\xC3"
                                     "b"));
+    EXPECT_EQ("a?b", Cp1252FromUtf8(std::string_view("a\0b", 3))) << "texts end at a byte of 0";
     EXPECT_EQ("???", Cp1252FromUtf8("\xED\xA0\x80")) << "a surrogate is no character";
     EXPECT_EQ("??", Cp1252FromUtf8("\xC0\xAF")) << "an overlong form is no UTF-8";
 }

@@ -157,6 +157,24 @@ TEST_P(Calculators, ExpressionTakes1023Characters)
     });
 }
 
+TEST_P(Calculators, ExpressionIsTakenCharacterByCharacter)
+{
+    InDialogOf(id::kCalculator, [](QDialog& dialog) {
+        const auto paste = [&](const QString& text) {
+            auto& input = Child<QPlainTextEdit>(dialog, "input");
+            TypeOver(input, "");
+            QGuiApplication::clipboard()->setText(text);
+            QTest::keyClick(&input, Qt::Key_V, Qt::ControlModifier);
+            return Child<QLineEdit>(dialog, "result").text();
+        };
+        EXPECT_EQ("Unknown character [ \u00A0 ].", paste(u"1\u00A0+1"_qs)) << "no blank of the language";
+        EXPECT_EQ("-96.000000", paste(u"ascii(\u00A0)"_qs));
+        EXPECT_EQ("Unknown character [ ? ].", paste(QString("1") + QChar(0) + "+1"));
+        EXPECT_EQ("2.000000", paste(u"1 // one\n+1"_qs));
+        EXPECT_EQ("2.000000", paste(u"1 // one\u2028+1"_qs));
+    });
+}
+
 TEST_P(Calculators, ALongResultIsReadFromItsFirstDigit)
 {
     InDialogOf(id::kCalculator, [](QDialog& dialog) {

@@ -506,6 +506,14 @@ TEST_F(TelescopeSheet, RemarksKeepTitleAndLines)
     EXPECT_STREQ("First\nSecond", Record().GetDescription());
 }
 
+TEST_F(TelescopeSheet, RemarksKeepTheirFixedBlanks)
+{
+    MakeTelescope();
+    Record().SetDescription("200\xA0mm\nf/6");
+    OnPage(kRemarks, "ok", [](CPropertyPage& page) { Type(page, 1001, "Dobson"); });
+    EXPECT_STREQ("200\xA0mm\nf/6", Record().GetDescription());
+}
+
 TEST_F(TelescopeSheet, AnEmptyTitleBecomesUnbenannt)
 {
     MakeTelescope();
