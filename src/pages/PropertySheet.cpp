@@ -13,6 +13,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kPanelWidth = 285;
@@ -48,7 +50,13 @@ CPropertySheet::CPropertySheet(const QString& caption, QWidget* parent) : QDialo
     column->addWidget(heading);
     column->addLayout(body, 1);
     column->addLayout(buttonRow);
-    connect(tabs, &QTabWidget::currentChanged, this, &CPropertySheet::Activate);
+    connect(tabs, &QTabWidget::currentChanged, this, [this](int index) {
+        const QSize before = size();
+        Activate(index);
+        if (size() != before) {
+            StayOnScreen();
+        }
+    });
 }
 
 QPushButton* CPropertySheet::AddButton(const QString& text, const char* name,
@@ -142,7 +150,19 @@ void CPropertySheet::GrowFor(QWidget* page)
          widget = widget->parentWidget()) {
         QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
     }
-    resize(size().expandedTo(sizeHint().boundedTo(screen()->availableSize())));
+    const QSize room = screen()->availableSize() - (frameGeometry().size() - size());
+    resize(size().expandedTo(sizeHint().boundedTo(room)));
+}
+
+/// Moves a sheet that has grown past an edge of the screen back, so that its buttons can be reached.
+void CPropertySheet::StayOnScreen()
+{
+    const QRect room = screen()->availableGeometry();
+    const QRect frame = frameGeometry();
+    if (isVisible()) { // before it is shown it has no place yet
+        move(std::max(room.left(), std::min(frame.left(), room.right() + 1 - frame.width())),
+             std::max(room.top(), std::min(frame.top(), room.bottom() + 1 - frame.height())));
+    }
 }
 
 void CPropertySheet::Apply()

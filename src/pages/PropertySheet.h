@@ -52,6 +52,7 @@ private:
     QPushButton* AddButton(const QString& text, const char* name, void (CPropertySheet::*pressed)());
     void Activate(int index);
     void GrowFor(QWidget* page);
+    void StayOnScreen();
     void Apply();
     void OnBack();
     void OnNext();

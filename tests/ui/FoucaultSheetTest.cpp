@@ -367,6 +367,22 @@ TEST_F(FoucaultSheet, TheSheetHoldsThePanelAndStandsInTheMiddleOfTheScreen)
     });
 }
 
+TEST_F(FoucaultSheet, TheSheetStaysOnTheScreenWhenItsLargestPageMakesItGrow)
+{
+    InFoucaultSheet([](CPropertySheetCouder& sheet) {
+        const QRect opened = sheet.frameGeometry();
+        PageOf(sheet, kMasks);
+        QCoreApplication::processEvents();
+        const QRect grown = sheet.frameGeometry();
+        const QRect room = sheet.screen()->availableGeometry();
+        EXPECT_LT(opened.height(), grown.height());
+        EXPECT_LE(room.top(), grown.top());
+        EXPECT_GE(room.bottom(), grown.bottom()) << "the buttons can be reached";
+        // What is wider than the screen shows its left side.
+        EXPECT_EQ(room.left(), grown.width() > room.width() ? grown.left() : room.left());
+    });
+}
+
 TEST_F(FoucaultSheet, OkWritesNothingToTheRecord)
 {
     Main().SetModified(0);
