@@ -1,15 +1,7 @@
 #pragma once
 
-#include "model/NumberField.h"
-
 #include <optional>
 #include <string>
-
-/// The fields of the page Setup: the grating in lines/mm, and the conic constant to be matched.
-inline constexpr NumberField kRonchiGrating{&COrrevaData::GetRonchiGrating, &COrrevaData::SetRonchiGrating,
-                                            "%0.2f"};
-inline constexpr NumberField kRonchiConstant{&COrrevaData::GetRonchiConstant, &COrrevaData::SetRonchiConstant,
-                                             "%0.2f"};
 
 /// How far the conic constant of a mirror may wander (1 is the paraboloid) before its wavefront error reaches
 /// a quarter of a wave.

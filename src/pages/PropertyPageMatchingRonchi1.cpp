@@ -1,6 +1,6 @@
 #include "pages/PropertyPageMatchingRonchi1.h"
 
-#include "model/RonchiTolerance.h"
+#include "model/RonchiSetup.h"
 
 #include "ui_PropertyPageMatchingRonchi1.h"
 
