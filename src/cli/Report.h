@@ -78,8 +78,7 @@ ReportLines CellReport(const ReportContext& context);
 ReportLines EyepiecesReport(const ReportContext& context);
 ReportLines BalanceReport(const ReportContext& context);
 
-// The pages of the optical tests and of the simulated field
-// --------------------------------------------------
+// The optical tests and the simulated field ---------------------------------------------------------------
 
 /// The zone calculator. Its list may be longer than memory, so that no line is kept.
 void FoucaultReport(const ReportContext& context, const ReportSink& sink);

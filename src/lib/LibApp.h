@@ -2,8 +2,7 @@
 
 /// Who the application is. Null until LibAppInit.
 extern const char* g_pszAppName; ///< its name
-extern const char*
-    g_pszAppDir; ///< directory of the program with its slash, empty if it was called by name alone
+extern const char* g_pszAppDir;  ///< its directory with the slash, empty if it was called by name alone
 extern const char* g_pszLogPath; ///< path of a log file
 extern int g_nAppValues[2];      ///< two numbers that go with the identity
 
