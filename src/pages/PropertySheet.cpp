@@ -142,6 +142,24 @@ void CPropertySheet::Activate(int index)
     entry.page->OnSetActive();
 }
 
+QSize CPropertySheet::LargestSize() const
+{
+    constexpr QSize kUsualFrame(10, 40);
+    const QSize frame = frameGeometry().size() - size();
+    return screen()->availableSize() - (frame.isNull() ? kUsualFrame : frame);
+}
+
+/// Moves a sheet that has grown past an edge of the screen back, so that its buttons can be reached.
+void CPropertySheet::StayOnScreen()
+{
+    const QRect room = screen()->availableGeometry();
+    const QRect frame = frameGeometry();
+    if (isVisible() && !room.contains(frame)) { // before it is shown it has no place yet
+        move(std::max(room.left(), std::min(frame.left(), room.right() + 1 - frame.width())),
+             std::max(room.top(), std::min(frame.top(), room.bottom() + 1 - frame.height())));
+    }
+}
+
 /// The sheet becomes as large as its largest page asks for, as far as the screen allows.
 void CPropertySheet::GrowFor(QWidget* page)
 {
@@ -150,19 +168,7 @@ void CPropertySheet::GrowFor(QWidget* page)
          widget = widget->parentWidget()) {
         QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
     }
-    const QSize room = screen()->availableSize() - (frameGeometry().size() - size());
-    resize(size().expandedTo(sizeHint().boundedTo(room)));
-}
-
-/// Moves a sheet that has grown past an edge of the screen back, so that its buttons can be reached.
-void CPropertySheet::StayOnScreen()
-{
-    const QRect room = screen()->availableGeometry();
-    const QRect frame = frameGeometry();
-    if (isVisible()) { // before it is shown it has no place yet
-        move(std::max(room.left(), std::min(frame.left(), room.right() + 1 - frame.width())),
-             std::max(room.top(), std::min(frame.top(), room.bottom() + 1 - frame.height())));
-    }
+    resize(size().expandedTo(sizeHint().boundedTo(LargestSize())));
 }
 
 void CPropertySheet::Apply()

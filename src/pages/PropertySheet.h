@@ -40,6 +40,10 @@ public:
     void accept() override;
 
 protected:
+    /// How large the sheet may become: the screen without its panels and the window's frame, which is guessed
+    /// until the window has one.
+    QSize LargestSize() const;
+
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -51,8 +55,8 @@ private:
 
     QPushButton* AddButton(const QString& text, const char* name, void (CPropertySheet::*pressed)());
     void Activate(int index);
-    void GrowFor(QWidget* page);
     void StayOnScreen();
+    void GrowFor(QWidget* page);
     void Apply();
     void OnBack();
     void OnNext();

@@ -3,8 +3,6 @@
 #include "pages/PropertyPageMatchingRonchi1.h"
 #include "pages/PropertyPageMatchingRonchi2.h"
 
-#include <QScreen>
-
 namespace {
 
 constexpr QSize kRoomForThePicture(690, 790);
@@ -18,5 +16,5 @@ CPropertySheetMatchingRonchi::CPropertySheetMatchingRonchi(COrrevaDoc& document,
             [&document](QWidget* place) { return new CPropertyPageMatchingRonchi1(document, place); });
     AddPage("Simulation",
             [&document](QWidget* place) { return new CPropertyPageMatchingRonchi2(document, place); });
-    resize(kRoomForThePicture.boundedTo(screen()->availableSize()));
+    resize(kRoomForThePicture.boundedTo(LargestSize()));
 }

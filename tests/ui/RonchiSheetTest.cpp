@@ -86,6 +86,15 @@ TEST_F(RonchiSheet, FieldsReachTheRecordOnApplyAlone)
     EXPECT_EQ(1, Main().IsModified());
 }
 
+TEST_F(RonchiSheet, TheSheetLeavesRoomForItsFrameOnALowScreen)
+{
+    InRonchiSheet([](CPropertySheetMatchingRonchi& sheet) {
+        const int high = sheet.screen()->availableSize().height();
+        ASSERT_GT(830, high) << "the picture asks for 790 pixels, a title bar for some 40";
+        EXPECT_GE(high - 40, sheet.height());
+    });
+}
+
 TEST_F(RonchiSheet, CancelStoresNothing)
 {
     Main().SetModified(0);
