@@ -94,7 +94,7 @@ int ReportError(int nCode);
 /// null if another holds it or it cannot be made, as for a null name.
 void* AlreadyRunning(const char* pszName);
 /// Starts a program by its command line, words split by blanks, double quotes keeping them together, and does
-/// not wait for it. 0, or 62 if it cannot be started.
+/// not wait for it. 0, or 62 if it cannot be started, as for a null pointer.
 int RunProgram(const char* pszCommandLine);
 /// Opens a file with the program that the desktop has for it. 0; 27 for a null path, 1 for a missing file, 62
 /// if it cannot be started. `hParent` is the window that asks, null for none.

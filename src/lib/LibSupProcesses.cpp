@@ -19,6 +19,17 @@ namespace {
 
 constexpr int kNoStart = 62;
 
+/// The result of a system call, which is made again when a signal interrupts it: the child's end is one.
+template <typename Call>
+auto Uninterrupted(Call call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR) {
+        result = call();
+    }
+    return result;
+}
+
 /// In the child: starts the program in a grandchild, which nobody has to wait for. What fails is written to
 /// `report`; a start that succeeds closes it.
 [[noreturn]] void Start(char* const* words, int report)
@@ -54,10 +65,11 @@ int StartDetached(std::vector<std::string> words)
     }
     close(report[1]);
     int error = 0;
-    const bool failed = child < 0 || read(report[0], &error, sizeof error) != 0;
+    const bool failed =
+        child < 0 || Uninterrupted([&] { return read(report[0], &error, sizeof error); }) != 0;
     close(report[0]);
     if (child > 0) {
-        waitpid(child, nullptr, 0);
+        Uninterrupted([child] { return waitpid(child, nullptr, 0); });
     }
     return failed ? kNoStart : 0;
 }
@@ -107,7 +119,10 @@ void* AlreadyRunning(const char* pszName)
     return object; // the descriptor stays open with its lock until the program ends
 }
 
-int RunProgram(const char* pszCommandLine) { return StartDetached(SplitWords(pszCommandLine)); }
+int RunProgram(const char* pszCommandLine)
+{
+    return pszCommandLine != nullptr ? StartDetached(SplitWords(pszCommandLine)) : kNoStart;
+}
 
 int OpenDocument(void*, const char* pszPath)
 {

@@ -11,6 +11,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -421,6 +422,20 @@ TEST(LibSupProgram, RunsACommandLine)
     EXPECT_EQ(62, RunProgram(""));
     EXPECT_EQ(62, RunProgram(" \t"));
     EXPECT_EQ(62, RunProgram(folder.Path().c_str()));
+    EXPECT_EQ(62, RunProgram(nullptr));
+}
+
+TEST(LibSupProgram, ASignalDoesNotPassForAFailedStart)
+{
+    struct sigaction before = {};
+    struct sigaction interrupting = {};
+    interrupting.sa_handler = [](int) {}; // without SA_RESTART
+    ASSERT_EQ(0, sigaction(SIGCHLD, &interrupting, &before));
+    for (int i = 0; i < 50; ++i) {
+        EXPECT_EQ(0, RunProgram("true")) << i;
+    }
+    EXPECT_EQ(62, RunProgram("/no/such/program"));
+    ASSERT_EQ(0, sigaction(SIGCHLD, &before, nullptr));
 }
 
 TEST(LibSupProgram, OpensADocument)
