@@ -173,8 +173,10 @@ int CResultList::SelectedRow() const
 
 void CResultList::CopySelection() const
 {
+    QItemSelection ranges = selectionModel()->selection(); // in the order of selecting
+    std::ranges::sort(ranges, {}, &QItemSelectionRange::top);
     QStringList lines;
-    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    for (const QItemSelectionRange& range : ranges) {
         for (int row = range.top(); row <= range.bottom() && lines.size() < kMostCopiedRows; ++row) {
             QStringList cells;
             for (int column = 0; column < results->columnCount(); ++column) {

@@ -39,6 +39,22 @@ TEST(ResultList, CopiesTheSelectedRowsAsText)
     EXPECT_EQ(0, list.SelectedRow());
 }
 
+TEST(ResultList, CopiesFromTheTopDownInWhateverOrderRowsWereSelected)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{"fifth", "5"}, {"fourth", "4"}, {"third", "3"}, {"second", "2"}, {"first", "1"}});
+    list.resize(500, 300);
+    list.show();
+    for (const int row : {4, 0, 2}) {
+        const QModelIndex cell = list.QTreeView::model()->index(row, 0);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          list.visualRect(cell).center());
+    }
+    list.CopySelection();
+    EXPECT_EQ("first\t1\nthird\t3\nfifth\t5", QGuiApplication::clipboard()->text());
+}
+
 TEST(ResultList, AThousandMillionRowsAreComputedWhenLookedAt)
 {
     int computed = 0;
