@@ -35,10 +35,10 @@ void PaintCouderMask(Surface& surface, std::int32_t top)
 
 } // namespace
 
-void PaintMirrorPanel(Surface& surface, COrrevaData& record, Colour background)
+void PaintMirrorPanel(Surface& surface, COrrevaData& record, Colour background, Colour text)
 {
     PaintPanelBackground(surface, background);
-    const std::int32_t y = PaintPanelRows(surface, MirrorPanelRows(record));
+    const std::int32_t y = PaintPanelRows(surface, MirrorPanelRows(record), text);
     PaintThinLine(surface, y);
     PaintCouderMask(surface, y);
 }

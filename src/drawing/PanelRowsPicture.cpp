@@ -7,7 +7,7 @@ void PaintPanelBackground(Surface& surface, Colour background)
     surface.FillRect({0, 0, surface.Width(), surface.Height()}, background);
 }
 
-std::int32_t PaintPanelRows(Surface& surface, const std::vector<PanelRow>& rows)
+std::int32_t PaintPanelRows(Surface& surface, const std::vector<PanelRow>& rows, Colour text)
 {
     constexpr std::int32_t kTop = 20;
     constexpr Font kFont{kScreenFontHeight, Font::kNormal};
@@ -16,7 +16,7 @@ std::int32_t PaintPanelRows(Surface& surface, const std::vector<PanelRow>& rows)
         if (row.line_on_top) {
             PaintThinLine(surface, y);
         }
-        y += PaintRow(surface, y, row.label, row.value, kFont, kBlack, kBlack);
+        y += PaintRow(surface, y, row.label, row.value, kFont, text, text);
     }
     return y;
 }

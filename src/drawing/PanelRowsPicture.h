@@ -11,7 +11,7 @@
 /// Fills the panel as the sheet around it is filled.
 void PaintPanelBackground(Surface& surface, Colour background);
 
-/// Paints the rows; the position under the last one.
-std::int32_t PaintPanelRows(Surface& surface, const std::vector<PanelRow>& rows);
+/// Paints the rows in the colour of text; the position under the last one.
+std::int32_t PaintPanelRows(Surface& surface, const std::vector<PanelRow>& rows, Colour text);
 
 void PaintThinLine(Surface& surface, std::int32_t y);

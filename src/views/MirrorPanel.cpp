@@ -3,7 +3,7 @@
 #include "document/OrrevaDoc.h"
 #include "drawing/MirrorPanelPicture.h"
 
-void CMirrorPanel::Paint(Surface& surface, Colour background)
+void CMirrorPanel::Paint(Surface& surface, Colour background, Colour text)
 {
-    PaintMirrorPanel(surface, *document.active_record, background);
+    PaintMirrorPanel(surface, *document.active_record, background, text);
 }

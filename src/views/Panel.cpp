@@ -27,5 +27,6 @@ void CPanel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     PainterSurface surface(painter, width(), height());
-    Paint(surface, ToColour(palette().color(QPalette::Window)));
+    Paint(surface, ToColour(palette().color(QPalette::Window)),
+          ToColour(palette().color(QPalette::WindowText)));
 }

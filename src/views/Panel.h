@@ -7,7 +7,7 @@
 class COrrevaDoc;
 
 /// A painted panel beside the pages of a sheet, its child window 4096. It has no data of its own: it reads
-/// the document's active record whenever it is painted, and lies on the sheet's own background.
+/// the document's active record whenever it is painted, and has the sheet's own colours.
 class CPanel : public QWidget {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    virtual void Paint(Surface& surface, Colour background) = 0;
+    virtual void Paint(Surface& surface, Colour background, Colour text) = 0;
 
     COrrevaDoc& document;
 };

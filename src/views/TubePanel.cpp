@@ -4,7 +4,7 @@
 #include "drawing/TubePanelPicture.h"
 #include "lib/Language.h"
 
-void CTubePanel::Paint(Surface& surface, Colour background)
+void CTubePanel::Paint(Surface& surface, Colour background, Colour text)
 {
-    PaintTubePanel(surface, *document.active_record, g_nLanguage, background);
+    PaintTubePanel(surface, *document.active_record, g_nLanguage, background, text);
 }

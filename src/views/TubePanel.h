@@ -10,5 +10,5 @@ public:
     using CPanel::CPanel;
 
 protected:
-    void Paint(Surface& surface, Colour background) override;
+    void Paint(Surface& surface, Colour background, Colour text) override;
 };

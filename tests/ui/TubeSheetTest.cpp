@@ -1,3 +1,4 @@
+#include "ui/PaintCounter.h"
 #include "ui/SheetHelpers.h"
 
 #include "document/Commands.h"
@@ -158,30 +159,16 @@ TEST_F(TubeSheet, EveryKeystrokeGoesIntoTheScratchRecordAndShowsEverywhere)
 
 TEST_F(TubeSheet, AKeystrokeRepaintsViewsAndPanelByItself)
 {
-    class PaintCounter : public QObject {
-    public:
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            paints += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-        int paints = 0;
-    };
     for (const int control : {1012, 1014, 1015, 1048, 1049}) {
         InTubeSheet([&](CPropertySheetTube& sheet) {
             const QWidget& page = PageOf(sheet, 0);
-            QCoreApplication::processEvents();
-            PaintCounter panel;
-            PaintCounter summary;
-            PaintCounter section;
-            sheet.findChild<CTubePanel*>()->installEventFilter(&panel);
-            app->Frame().LeftView().installEventFilter(&summary);
-            app->Frame().RightView().installEventFilter(&section);
+            PaintCounter panel(*sheet.findChild<CTubePanel*>());
+            PaintCounter summary(app->Frame().LeftView());
+            PaintCounter section(app->Frame().RightView());
             QTest::keyClick(FindControl<QWidget>(&page, control), '7');
-            QCoreApplication::processEvents();
-            EXPECT_LE(1, panel.paints) << control;
-            EXPECT_LE(1, summary.paints) << control;
-            EXPECT_LE(1, section.paints) << control;
+            EXPECT_LE(1, panel.Take()) << control;
+            EXPECT_LE(1, summary.Take()) << control;
+            EXPECT_LE(1, section.Take()) << control;
         });
     }
 }
@@ -503,6 +490,27 @@ TEST_F(TubeSheet, ThePanelStandsAtTheRightOnTheSheetsBackground)
         EXPECT_EQ(sheet.palette().color(QPalette::Window), image.pixelColor(1, 1));
         EXPECT_EQ(QColor(144, 144, 144), image.pixelColor(100, 34)) << "the line on the second row";
     });
+}
+
+TEST_F(TubeSheet, ThePanelWritesInTheColourOfTheSheet)
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::Window, QColor(32, 32, 32));
+    dark.setColor(QPalette::WindowText, QColor(240, 240, 240));
+    QApplication::setPalette(dark);
+    InTubeSheet([](CPropertySheetTube& sheet) {
+        const QImage image = Picture(sheet);
+        EXPECT_EQ(QColor(32, 32, 32), image.pixelColor(1, 1));
+        int brightest = 0;
+        for (int y = 20; y < 34; ++y) {
+            for (int x = 2; x < 60; ++x) {
+                brightest = std::max(brightest, image.pixelColor(x, y).lightness());
+            }
+        }
+        EXPECT_LT(128, brightest) << "the label of the first row";
+    });
+    QApplication::setPalette(before);
 }
 
 TEST_F(TubeSheet, OddTextsInAnyFieldAreSurvived)
