@@ -14,7 +14,6 @@ CMyPropertyPage01::CMyPropertyPage01(COrrevaDoc& doc, QWidget* parent)
     ui->remarks->setPlainText(ToQString(Record().GetDescription().GetText()));
     BindData({ui->title});
     connect(ui->remarks, &QPlainTextEdit::textChanged, this, &CMyPropertyPage01::Changed);
-    ui->title->setFocus();
 }
 
 CMyPropertyPage01::~CMyPropertyPage01() = default;

@@ -2,12 +2,14 @@
 
 #include "pages/Controls.h"
 #include "pages/Help.h"
+#include "views/HandCursorStatic.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
@@ -18,6 +20,28 @@
 namespace {
 
 constexpr int kPanelWidth = 285;
+
+bool TakesTab(const QWidget* widget) { return (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus; }
+
+/// Not the pictures for help at a page's edge, and of radio buttons the one that is chosen.
+bool IsField(const QWidget* widget)
+{
+    const auto* const radio = qobject_cast<const QRadioButton*>(widget);
+    return widget->isEnabled() && TakesTab(widget) &&
+           qobject_cast<const CHandCursorStatic*>(widget) == nullptr &&
+           (radio == nullptr || radio->isChecked());
+}
+
+/// Where the keyboard begins on a page, null if it has no field.
+QWidget* FirstField(QWidget* page)
+{
+    for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+        if (page->isAncestorOf(next) && IsField(next)) {
+            return next;
+        }
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -131,15 +155,26 @@ void CPropertySheet::Activate(int index)
     }
     Entry& entry = entries[static_cast<std::size_t>(index)];
     if (entry.page == nullptr) {
-        entry.page = entry.make(tabs->widget(index));
-        tabs->widget(index)->layout()->addWidget(entry.page);
-        connect(entry.page, &CPropertyPage::Modified, this, [this] { apply->setEnabled(true); });
-        connect(entry.page, &CPropertyPage::WizardButtons, this, &CPropertySheet::ShowWizardButtons);
-        entry.page->show();
-        GrowFor(entry.page);
+        Build(entry, *tabs->widget(index));
     }
     heading->setText(tabs->tabText(index));
     entry.page->OnSetActive();
+}
+
+void CPropertySheet::Build(Entry& entry, QWidget& place)
+{
+    entry.page = entry.make(&place);
+    place.layout()->addWidget(entry.page);
+    connect(entry.page, &CPropertyPage::Modified, this, [this] { apply->setEnabled(true); });
+    connect(entry.page, &CPropertyPage::WizardButtons, this, &CPropertySheet::ShowWizardButtons);
+    entry.page->show();
+    GrowFor(entry.page);
+    PutButtonsLast();
+    // The keyboard was on a page that went to the back, or nowhere yet.
+    QWidget* const field = FirstField(entry.page);
+    if (field != nullptr && (focusWidget() == nullptr || focusWidget() == &place)) {
+        field->setFocus();
+    }
 }
 
 QSize CPropertySheet::LargestSize() const
@@ -169,6 +204,19 @@ void CPropertySheet::GrowFor(QWidget* page)
         QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
     }
     resize(size().expandedTo(sizeHint().boundedTo(LargestSize())));
+}
+
+/// TAB meets a page before the buttons below it, though the page was built after them.
+void CPropertySheet::PutButtonsLast()
+{
+    QWidget* last = previousInFocusChain();
+    while (last != this && !TakesTab(last)) {
+        last = last->previousInFocusChain();
+    }
+    for (QPushButton* const button : {back, next, finish, ok, cancel, apply}) {
+        setTabOrder(last, button);
+        last = button;
+    }
 }
 
 void CPropertySheet::Apply()
@@ -213,12 +261,19 @@ void CPropertySheet::ShowWizardButtons(unsigned buttons)
         return;
     }
     const bool finishes = (buttons & kWizardFinish) != 0;
+    QPushButton* const forward = finishes ? finish : next;
+    QPushButton* const other = finishes ? next : finish;
     back->show();
     back->setEnabled((buttons & kWizardBack) != 0);
-    next->setVisible(!finishes);
-    next->setEnabled((buttons & kWizardNext) != 0);
-    finish->setVisible(finishes);
-    (finishes ? finish : next)->setDefault(true);
+    if (!finishes) {
+        next->setEnabled((buttons & kWizardNext) != 0);
+    }
+    forward->show();
+    forward->setDefault(true);
+    if (other->hasFocus()) { // else the focus would go on to Cancel
+        forward->setFocus();
+    }
+    other->hide();
 }
 
 void CPropertySheet::keyPressEvent(QKeyEvent* event)

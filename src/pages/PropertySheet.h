@@ -56,7 +56,9 @@ private:
     QPushButton* AddButton(const QString& text, const char* name, void (CPropertySheet::*pressed)());
     void Activate(int index);
     void StayOnScreen();
+    void Build(Entry& entry, QWidget& place);
     void GrowFor(QWidget* page);
+    void PutButtonsLast();
     void Apply();
     void OnBack();
     void OnNext();

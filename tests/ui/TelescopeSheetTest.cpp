@@ -1,3 +1,4 @@
+#include "ui/PaintCounter.h"
 #include "ui/SheetFixture.h"
 
 #include "model/Formulas.h"
@@ -232,8 +233,10 @@ TEST_F(TelescopeSheet, KeysReachEveryControlInReadingOrder)
             // In each column of a form, from its top down.
             std::vector<const QWidget*> reached;
             for (QWidget* next = page.nextInFocusChain(); next != &page; next = next->nextInFocusChain()) {
-                if (page.isAncestorOf(next) && next->property(kControlId).toInt() != 0 &&
-                    (next->focusPolicy() & Qt::TabFocus) != 0) {
+                // TAB goes to the chosen one of several radio buttons, arrows to the others.
+                const bool byKeys =
+                    (next->focusPolicy() & Qt::TabFocus) != 0 || next->inherits("QRadioButton");
+                if (page.isAncestorOf(next) && next->property(kControlId).toInt() != 0 && byKeys) {
                     reached.push_back(next);
                 }
             }
@@ -250,6 +253,45 @@ TEST_F(TelescopeSheet, KeysReachEveryControlInReadingOrder)
                     << reached[i - 1]->objectName().toStdString() << " -> "
                     << reached[i]->objectName().toStdString();
             }
+        }
+    });
+}
+
+/// The controls that TAB reaches one after the other, from the tabs on until it is back at them.
+std::vector<const QWidget*> TabRound(CPropertySheet& sheet)
+{
+    constexpr int kMostControls = 60;
+    auto* const tabs = sheet.findChild<QTabBar*>();
+    tabs->setFocus();
+    std::vector<const QWidget*> reached;
+    for (int i = 0; i < kMostControls; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        if (QApplication::focusWidget() == tabs) {
+            break;
+        }
+        reached.push_back(QApplication::focusWidget());
+    }
+    return reached;
+}
+
+TEST_F(TelescopeSheet, TheKeyboardGoesFromTheTabsOverThePageToTheButtons)
+{
+    MakeTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        // A page that was built behind others, too, is met before the buttons.
+        for (const SheetPage index : {kBalance, kRemarks, kPrimary, kTube, kFocuser, kSecondary, kCell}) {
+            const CPropertyPage& page = Visit(sheet, index);
+            Button(sheet, "apply").setEnabled(true);
+            const std::vector<const QWidget*> reached = TabRound(sheet);
+            ASSERT_LT(3u, reached.size()) << index;
+            const auto buttons = reached.end() - 3;
+            EXPECT_TRUE(std::all_of(reached.begin(), buttons, [&](const QWidget* control) {
+                return page.isAncestorOf(control);
+            })) << index;
+            EXPECT_EQ((std::vector<const QWidget*>{&Button(sheet, "ok"), &Button(sheet, "cancel"),
+                                                   &Button(sheet, "apply")}),
+                      std::vector<const QWidget*>(buttons, reached.end()))
+                << index;
         }
     });
 }
@@ -301,18 +343,6 @@ TEST_F(TelescopeSheet, OkWithNothingChangedStillSetsModified)
     EXPECT_EQ(1, Record().IsModified());
 }
 
-/// Counts the repaints of a widget.
-class PaintCounter : public QObject {
-public:
-    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int paints = 0;
-};
-
 TEST_F(TelescopeSheet, ApplyOnAnyPageRefreshesTheViewsOnce)
 {
     MakeSmallTelescope();
@@ -320,14 +350,12 @@ TEST_F(TelescopeSheet, ApplyOnAnyPageRefreshesTheViewsOnce)
         InSheet([&](CMyPropertySheet0& sheet) {
             CPropertyPage& page = Visit(sheet, row.page);
             emit page.Modified();
-            QCoreApplication::processEvents();
             PaintCounter left(app->Frame().LeftView());
             PaintCounter right(app->Frame().RightView());
             Record().SetModified(0);
             Press(sheet, "apply");
-            QCoreApplication::processEvents();
-            EXPECT_EQ(1, left.paints) << row.english;
-            EXPECT_EQ(1, right.paints) << row.english;
+            EXPECT_EQ(1, left.Take()) << row.english;
+            EXPECT_EQ(1, right.Take()) << row.english;
             EXPECT_EQ(1, Record().IsModified()) << row.english;
         });
     }
@@ -587,6 +615,54 @@ TEST_F(TelescopeSheetGerman, TheWizardsButtonsAreGerman)
         Press(sheet, "finish");
     });
     EXPECT_TRUE(app->Document().HasFile());
+}
+
+TEST_F(TelescopeSheet, EachPageOfTheWizardOpensWithTheKeyboardInItsFirstField)
+{
+    InSheet(kNewDetailed, [](CMyPropertySheet0& sheet) {
+        QCoreApplication::processEvents(); // the sheet becomes the active window
+        for (const int control : {1001, 1008, 1049, 1041, 1049}) {
+            ASSERT_NE(nullptr, QApplication::focusWidget()) << sheet.ActiveIndex();
+            EXPECT_EQ(control, QApplication::focusWidget()->property(kControlId).toInt());
+            EXPECT_TRUE(sheet.Page(sheet.ActiveIndex())->isAncestorOf(QApplication::focusWidget()));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        }
+        EXPECT_FALSE(sheet.isVisible());
+    });
+    EXPECT_TRUE(app->Document().HasFile()) << "five times Return run the wizard to its end";
+}
+
+TEST_F(TelescopeSheet, OfRadioButtonsTheChosenOneHasTheKeyboard)
+{
+    const std::pair<int, int> rows[] = {{0, 1041}, {1, 1016}, {2, 1007}}; // the sliding kind is disabled
+    for (const auto& [type, control] : rows) {
+        MakeSmallTelescope();
+        Record().SetFocuserType(type);
+        InSheet([&](CMyPropertySheet0& sheet) {
+            QCoreApplication::processEvents();
+            Visit(sheet, kFocuser);
+            ASSERT_NE(nullptr, QApplication::focusWidget());
+            EXPECT_EQ(control, QApplication::focusWidget()->property(kControlId).toInt()) << type;
+        });
+        EXPECT_EQ(type, Record().GetFocuserType());
+        Record().SetModified(0);
+    }
+}
+
+TEST_F(TelescopeSheet, TheSpaceBarOnNextEndsOnFinishAndNotOnCancel)
+{
+    InSheet(kNewDetailed, [](CMyPropertySheet0& sheet) {
+        QCoreApplication::processEvents();
+        Button(sheet, "next").setFocus();
+        for (int i = 0; i < 4; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        }
+        EXPECT_EQ(kSecondary, sheet.ActiveIndex());
+        EXPECT_EQ(&Button(sheet, "finish"), QApplication::focusWidget());
+        Button(sheet, "back").click(); // as its key does, which leaves the focus where it is
+        EXPECT_EQ(kFocuser, sheet.ActiveIndex());
+        EXPECT_EQ(&Button(sheet, "next"), QApplication::focusWidget());
+    });
 }
 
 TEST_F(TelescopeSheet, CancelOfTheWizardLeavesNoTelescope)
