@@ -13,7 +13,7 @@
 SecondaryTexts ReadSecondary(COrrevaData& record)
 {
     SecondaryTexts texts;
-    texts.wanted_field = ShowNumber(record, kSecondaryWantedField);
+    texts.wanted_field = ShowNumber(record, kWantedField);
     texts.minor_axis = ShowNumber(record, kSecondaryMinorAxis);
     texts.wanted_degrees = WantedFieldDegrees(record, texts.wanted_field);
     return texts;
@@ -22,7 +22,7 @@ SecondaryTexts ReadSecondary(COrrevaData& record)
 void StoreSecondary(COrrevaData& record, const SecondaryTexts& texts)
 {
     StoreNumber(record, kSecondaryMinorAxis, texts.minor_axis);
-    StoreNumber(record, kSecondaryWantedField, texts.wanted_field);
+    StoreNumber(record, kWantedField, texts.wanted_field);
 }
 
 namespace {

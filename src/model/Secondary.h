@@ -8,8 +8,6 @@
 
 /// The page Secondary: how a flat of the typed minor axis lights the field of the record's telescope.
 
-inline constexpr NumberField kSecondaryWantedField{&COrrevaData::GetWanted100PercentFow,
-                                                   &COrrevaData::SetWanted100PercentFow, "%0.2f"};
 inline constexpr NumberField kSecondaryMinorAxis{&COrrevaData::GetSecondaryDiameter,
                                                  &COrrevaData::SetSecondaryDiameter, "%0.2f"};
 

@@ -9,7 +9,7 @@
 TubeTexts ReadTube(COrrevaData& record)
 {
     TubeTexts texts;
-    texts.wanted_field = ShowNumber(record, kTubeWantedField);
+    texts.wanted_field = ShowNumber(record, kWantedField);
     texts.wanted_degrees = WantedFieldDegrees(record, texts.wanted_field);
     texts.inside_diameter = ShowNumber(record, kTubeInsideDiameter);
     texts.thickness = ShowNumber(record, kTubeThickness);
@@ -24,7 +24,7 @@ void StoreTube(COrrevaData& record, const TubeTexts& texts)
     StoreNumber(record, kTubeInsideDiameter, texts.inside_diameter);
     StoreNumber(record, kTubeDistanceBack, texts.distance_back);
     StoreNumber(record, kTubeDistanceFront, texts.distance_front);
-    StoreNumber(record, kTubeWantedField, texts.wanted_field);
+    StoreNumber(record, kWantedField, texts.wanted_field);
 }
 
 ListRows TubeRows(COrrevaData& record, const TubeTexts& texts, int language)

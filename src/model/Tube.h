@@ -8,8 +8,6 @@
 
 /// The page Tube: the solid tube's measures and the lengths that follow from them.
 
-inline constexpr NumberField kTubeWantedField{&COrrevaData::GetWanted100PercentFow,
-                                              &COrrevaData::SetWanted100PercentFow, "%0.2f"};
 inline constexpr NumberField kTubeInsideDiameter{&COrrevaData::GetInsideDiameterHat,
                                                  &COrrevaData::SetInsideDiameterHat, "%0.1f"};
 inline constexpr NumberField kTubeThickness{&COrrevaData::GetThicknessHat, &COrrevaData::SetThicknessHat,

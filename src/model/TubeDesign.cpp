@@ -1,6 +1,7 @@
 #include "model/TubeDesign.h"
 
 #include "lib/FormatText.h"
+#include "model/WantedField.h"
 
 TubeDesign DesignOf(std::int32_t tube_type) { return tube_type == 0 ? kSolidTube : kTrussTube; }
 
@@ -10,7 +11,7 @@ TubeMeasures ReadTubeMeasures(COrrevaData& record)
     texts.inside_diameter = ShowNumber(record, kTubeInsideDiameter);
     texts.distance_back = ShowNumber(record, kTubeDistanceBack);
     texts.distance_front = ShowNumber(record, kTubeDistanceFront);
-    texts.wanted_field = ShowNumber(record, kTubeWantedField);
+    texts.wanted_field = ShowNumber(record, kWantedField);
     return texts;
 }
 
@@ -19,7 +20,7 @@ void StoreTubeMeasures(COrrevaData& record, const TubeMeasures& texts, TubeDesig
     StoreNumber(record, kTubeInsideDiameter, texts.inside_diameter);
     StoreNumber(record, kTubeDistanceBack, texts.distance_back);
     StoreNumber(record, kTubeDistanceFront, texts.distance_front);
-    StoreNumber(record, kTubeWantedField, texts.wanted_field);
+    StoreNumber(record, kWantedField, texts.wanted_field);
     if (design == kSolidTube) {
         record.SetTubeType(0);
     } else if (record.GetTubeType() < 1) {

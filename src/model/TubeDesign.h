@@ -40,8 +40,8 @@ std::string ResetTubeMeasure(COrrevaData& record, const NumberField& field);
 inline constexpr NumberField kTrussBoxThickness{&COrrevaData::GetThicknessBox, &COrrevaData::SetThicknessBox,
                                                 "%0.1f"};
 inline constexpr NumberField kTrussBoxHeight{&COrrevaData::GetHeightBox, &COrrevaData::SetHeightBox, "%0.1f"};
-inline constexpr NumberField kTrussCageThickness{&COrrevaData::GetThicknessHat, &COrrevaData::SetThicknessHat,
-                                                 "%0.1f"};
+/// The cage is the upper end of the tube and shares its wall.
+inline constexpr const NumberField& kTrussCageThickness = kTubeThickness;
 inline constexpr NumberField kTrussCageHeight{&COrrevaData::GetHeightHat, &COrrevaData::SetHeightHat,
                                               "%0.1f"};
 

@@ -1,11 +1,14 @@
 #pragma once
 
-#include "model/OrrevaData.h"
+#include "model/NumberField.h"
 
 #include <string>
 
 /// The wanted field of the pages Tube and Secondary and of the tube design: as a size in the focal plane (mm)
 /// and as an angle (degrees). Both are texts, coupled through the record's focal length.
+
+inline constexpr NumberField kWantedField{&COrrevaData::GetWanted100PercentFow,
+                                          &COrrevaData::SetWanted100PercentFow, "%0.2f"};
 
 /// The angle for the typed millimetres, with four decimals.
 std::string WantedFieldDegrees(COrrevaData& record, const std::string& millimetres);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Secondary.h"
-#include "pages/TelescopePage.h"
+#include "pages/WantedFieldPage.h"
 
 #include <memory>
 
@@ -12,14 +12,13 @@ class MyPropertyPage04;
 /// The page Secondary: how a flat of the typed size lights the field. When it comes to the front it reads the
 /// wanted field again, which the page Tube may have changed; the list stays as it was until something is
 /// typed.
-class CMyPropertyPage04 : public CTelescopePage {
+class CMyPropertyPage04 : public CWantedFieldPage {
     Q_OBJECT
 
 public:
     CMyPropertyPage04(COrrevaDoc& document, QWidget* parent);
     ~CMyPropertyPage04() override;
 
-    void OnSetActive() override;
     void Store() override;
 
 protected:
@@ -27,7 +26,6 @@ protected:
 
 private:
     SecondaryTexts Texts() const;
-    void ShowDegrees(const std::string& wantedField);
 
     std::unique_ptr<Ui::MyPropertyPage04> ui;
 };

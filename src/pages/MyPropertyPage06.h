@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Tube.h"
-#include "pages/TelescopePage.h"
+#include "pages/WantedFieldPage.h"
 
 #include <memory>
 
@@ -11,14 +11,13 @@ class MyPropertyPage06;
 
 /// The page Tube: the measures of a solid tube and the lengths that follow. When it comes to the front it
 /// reads the wanted field again, which the page Secondary may have changed.
-class CMyPropertyPage06 : public CTelescopePage {
+class CMyPropertyPage06 : public CWantedFieldPage {
     Q_OBJECT
 
 public:
     CMyPropertyPage06(COrrevaDoc& document, QWidget* parent);
     ~CMyPropertyPage06() override;
 
-    void OnSetActive() override;
     void Store() override;
     void OnApply() override;
 
@@ -27,7 +26,6 @@ protected:
 
 private:
     TubeTexts Texts() const;
-    void ShowDegrees(const std::string& wantedField);
 
     std::unique_ptr<Ui::MyPropertyPage06> ui;
 };

@@ -10,6 +10,8 @@
 #include "pages/MyPropertyPage07.h"
 #include "pages/MyPropertyPage08.h"
 
+#include <QScreen>
+
 namespace {
 
 template <typename Page>
@@ -47,5 +49,6 @@ CMyPropertySheet0::CMyPropertySheet0(COrrevaDoc& document, QWidget* parent)
     if (g_nWizard != 0) {
         SetWizardMode();
     }
-    resize(820, 640); // room for the longest list, so that the sheet keeps its size from page to page
+    // Room for the longest list, so that the sheet keeps its size from page to page.
+    resize(QSize(820, 640).boundedTo(screen()->availableSize()));
 }

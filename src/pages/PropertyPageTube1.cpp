@@ -36,12 +36,12 @@ void CPropertyPageTube1::ConnectWantedField()
         ShowDegrees();
         Update();
     });
-    ConnectReset(ui->wantedFieldReset, ui->wantedField, kTubeWantedField);
+    ConnectReset(ui->wantedFieldReset, ui->wantedField, kWantedField);
     connect(ui->wantedFieldReset, &QToolButton::clicked, this, &CPropertyPageTube1::ShowDegrees);
     connect(ui->wantedDegreesReset, &QToolButton::clicked, this, [this] {
         StoreMoonSizedField(Record());
         Record().ResetCaches();
-        ui->wantedField->setText(ToQString(ShowNumber(Record(), kTubeWantedField)));
+        ui->wantedField->setText(ToQString(ShowNumber(Record(), kWantedField)));
         ShowDegrees();
         ShowChange();
     });

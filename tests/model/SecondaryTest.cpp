@@ -195,7 +195,7 @@ TEST(Secondary, ResettingTheMinorAxisProposesOneForTheWantedFieldOfTheRecord)
     record.SetWanted100PercentFow(30);
     // (200 - 30) * 188 / 1200 + 30 = 56.6: the next standard size is 66.04.
     EXPECT_EQ("66.04", ResetNumber(record, kSecondaryMinorAxis));
-    EXPECT_EQ("12.00", ResetNumber(record, kSecondaryWantedField));
+    EXPECT_EQ("12.00", ResetNumber(record, kWantedField));
 }
 
 TEST(WantedField, CouplesDegreesAndMillimetres)

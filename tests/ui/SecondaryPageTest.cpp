@@ -51,22 +51,6 @@ TEST_F(SecondaryPage, DetailsBringTheOtherAuthorsAndTheIllumination)
     });
 }
 
-TEST_F(SecondaryPage, DegreesFollowTheWantedFieldAlone)
-{
-    MakeMeasuredTelescope();
-    OnPage(kSecondary, "cancel", [this](CPropertyPage& page) {
-        EXPECT_EQ("0.5730", TextOf(page, 1048));
-        app->Document().main_record.SetFocalLength(2400);
-        Type(page, 1018, "51");
-        EXPECT_EQ("0.5730", TextOf(page, 1048)) << "another field changed";
-        Type(page, 1049, "12");
-        EXPECT_EQ("0.2865", TextOf(page, 1048));
-        Type(page, 1049, "20");
-        Click(page, 1056);
-        EXPECT_EQ("0.2865", TextOf(page, 1048)) << "the reset's 12 mm";
-    });
-}
-
 TEST_F(SecondaryPageGerman, ListsInGerman)
 {
     MakeMeasuredTelescope();

@@ -6,6 +6,7 @@
 #include "views/OrrevaView.h"
 
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -469,6 +470,36 @@ TEST_F(TelescopeSheet, EveryFieldHasItsResetButton)
                 Click(page, id);
             }
         }
+    });
+}
+
+TEST_F(TelescopeSheet, DegreesFollowTheWantedFieldAlone)
+{
+    const std::pair<SheetPage, int> rows[] = {{kTube, 1012}, {kSecondary, 1018}};
+    for (const auto& [index, other] : rows) {
+        MakeMeasuredTelescope();
+        OnPage(index, "cancel", [&](CPropertyPage& page) {
+            EXPECT_EQ("0.5730", TextOf(page, 1048));
+            Record().SetFocalLength(2400);
+            Type(page, other, "51");
+            EXPECT_EQ("0.5730", TextOf(page, 1048)) << "another field changed";
+            Type(page, 1049, "12");
+            EXPECT_EQ("0.2865", TextOf(page, 1048));
+            Type(page, 1049, "20");
+            Click(page, 1056);
+            EXPECT_EQ("0.2865", TextOf(page, 1048)) << "the reset's 12 mm";
+        });
+        Record().SetModified(0);
+    }
+}
+
+TEST_F(TelescopeSheet, TheSheetOpensNoLargerThanTheScreen)
+{
+    MakeTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        const QSize room = sheet.screen()->availableSize();
+        EXPECT_LE(sheet.width(), room.width());
+        EXPECT_LE(sheet.height(), room.height());
     });
 }
 
