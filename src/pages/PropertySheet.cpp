@@ -116,6 +116,7 @@ void CPropertySheet::SetWizardMode()
 {
     wizard = true;
     tabs->tabBar()->hide();
+    tabs->installEventFilter(this);
     heading->show();
     for (QPushButton* const button : {ok, apply}) {
         button->hide();
@@ -274,6 +275,19 @@ void CPropertySheet::ShowWizardButtons(unsigned buttons)
         forward->setFocus();
     }
     other->hide();
+}
+
+/// Keeps the keys that change tabs from the wizard: a page is left by its buttons, which store it.
+bool CPropertySheet::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == tabs && event->type() == QEvent::KeyPress) {
+        const auto* const pressed = static_cast<QKeyEvent*>(event);
+        const bool tab = pressed->key() == Qt::Key_Tab || pressed->key() == Qt::Key_Backtab;
+        if (tab && (pressed->modifiers() & Qt::ControlModifier) != 0) {
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void CPropertySheet::keyPressEvent(QKeyEvent* event)

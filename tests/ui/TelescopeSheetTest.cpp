@@ -663,6 +663,25 @@ TEST_F(TelescopeSheet, EachPageOfTheWizardOpensWithTheKeyboardInItsFirstField)
     EXPECT_TRUE(app->Document().HasFile()) << "five times Return run the wizard to its end";
 }
 
+TEST_F(TelescopeSheet, TheKeysThatChangeTabsDoNotLeadAroundTheWizardsButtons)
+{
+    InSheet(kNewDetailed, [](CMyPropertySheet0& sheet) {
+        QCoreApplication::processEvents();
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+            QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
+            EXPECT_EQ(kRemarks, sheet.ActiveIndex()) << "a page left so would not be stored";
+        }
+    });
+    MakeTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        QCoreApplication::processEvents();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(kPrimary, sheet.ActiveIndex());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ControlModifier);
+        EXPECT_EQ(kRemarks, sheet.ActiveIndex());
+    });
+}
+
 TEST_F(TelescopeSheet, OfRadioButtonsTheChosenOneHasTheKeyboard)
 {
     const std::pair<int, int> rows[] = {{0, 1041}, {1, 1016}, {2, 1007}}; // the sliding kind is disabled
