@@ -185,7 +185,9 @@ void CResultList::CopySelection() const
             lines << cells.join('\t');
         }
     }
-    QGuiApplication::clipboard()->setText(lines.join('\n'));
+    if (!lines.isEmpty()) {
+        QGuiApplication::clipboard()->setText(lines.join('\n'));
+    }
 }
 
 void CResultList::keyPressEvent(QKeyEvent* event)

@@ -39,6 +39,16 @@ TEST(ResultList, CopiesTheSelectedRowsAsText)
     EXPECT_EQ(0, list.SelectedRow());
 }
 
+TEST(ResultList, CopyingWithoutASelectionLeavesTheClipboardAlone)
+{
+    QGuiApplication::clipboard()->setText("kept");
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{"first", "1"}});
+    QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ("kept", QGuiApplication::clipboard()->text());
+}
+
 TEST(ResultList, CopiesFromTheTopDownInWhateverOrderRowsWereSelected)
 {
     CResultList list;
