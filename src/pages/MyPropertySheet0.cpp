@@ -10,8 +10,6 @@
 #include "pages/MyPropertyPage07.h"
 #include "pages/MyPropertyPage08.h"
 
-#include <QScreen>
-
 namespace {
 
 template <typename Page>
@@ -50,5 +48,5 @@ CMyPropertySheet0::CMyPropertySheet0(COrrevaDoc& document, QWidget* parent)
         SetWizardMode();
     }
     // Room for the longest list, so that the sheet keeps its size from page to page.
-    resize(QSize(820, 640).boundedTo(screen()->availableSize()));
+    resize(QSize(820, 640).boundedTo(LargestSize()));
 }
