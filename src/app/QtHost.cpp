@@ -21,8 +21,6 @@
 
 namespace {
 
-QWidget* ActiveWindow() { return QApplication::activeWindow(); }
-
 /// A question takes its buttons alone for an answer: neither the escape key nor the window's close button
 /// stands for one that loses data. A box that only tells goes by either.
 class MessageBox : public QMessageBox {
@@ -49,10 +47,10 @@ private:
     bool IsQuestion() const { return buttons().size() > 1; }
 };
 
-int Box(QMessageBox::Icon icon, const QString& title, const QString& text,
+int Box(QWidget* owner, QMessageBox::Icon icon, const QString& title, const QString& text,
         QMessageBox::StandardButtons buttons)
 {
-    MessageBox box(icon, title, text, buttons, ActiveWindow());
+    MessageBox box(icon, title, text, buttons, owner);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     return box.exec();
@@ -96,15 +94,22 @@ void CQtHost::Attach(CMainFrame* mainFrame, COrrevaDoc* doc)
     document = doc;
 }
 
+QWidget* CQtHost::Owner() const
+{
+    // The active window is none of them for a while after a box has closed.
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal == nullptr && frame != nullptr && frame->isVisible() ? frame : modal;
+}
+
 bool CQtHost::AskYesNo(const char* text)
 {
-    return Box(QMessageBox::Question, "Orreva", ToQString(text), QMessageBox::Yes | QMessageBox::No) ==
-           QMessageBox::Yes;
+    return Box(Owner(), QMessageBox::Question, "Orreva", ToQString(text),
+               QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 void CQtHost::ShowMessage(const char* text)
 {
-    Box(QMessageBox::Warning, "Orreva", ToQString(text), QMessageBox::Ok);
+    Box(Owner(), QMessageBox::Warning, "Orreva", ToQString(text), QMessageBox::Ok);
 }
 
 void CQtHost::SetDocumentTitle(const char* path)
@@ -127,7 +132,7 @@ void CQtHost::UpdateAllViews()
 
 std::string CQtHost::AskPath(const FileDialog& mask)
 {
-    QFileDialog dialog(ActiveWindow());
+    QFileDialog dialog(Owner());
     dialog.setAcceptMode(mask.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     // A name that is typed and does not exist is the document's to tell.
     dialog.setFileMode(QFileDialog::AnyFile);
@@ -144,7 +149,7 @@ bool CQtHost::AskQuickNew(QuickNewTexts& texts)
 {
     // The record is reset and waits for its two numbers: who read it now would fix its defaults.
     const FrozenFrame frozen(frame);
-    CQuickNewDialog dialog(texts, ActiveWindow());
+    CQuickNewDialog dialog(texts, Owner());
     if (dialog.exec() != QDialog::Accepted) {
         return false;
     }
@@ -154,17 +159,17 @@ bool CQtHost::AskQuickNew(QuickNewTexts& texts)
 
 bool CQtHost::AskRaytracingSettings(std::uint8_t miss_in_grey)
 {
-    return CRaytracingSettingsDialog(miss_in_grey, ActiveWindow()).exec() == QDialog::Accepted;
+    return CRaytracingSettingsDialog(miss_in_grey, Owner()).exec() == QDialog::Accepted;
 }
 
 bool CQtHost::RunModal(Modal modal)
 {
-    return document != nullptr && RunModalDialog(modal, *document, ActiveWindow());
+    return document != nullptr && RunModalDialog(modal, *document, Owner());
 }
 
 AssertAnswer CQtHost::AskAssert(const char* title, const char* text)
 {
-    switch (Box(QMessageBox::Critical, ToQString(title), ToQString(text),
+    switch (Box(Owner(), QMessageBox::Critical, ToQString(title), ToQString(text),
                 QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore)) {
     case QMessageBox::Abort:
         return AssertAnswer::Abort;
@@ -193,14 +198,14 @@ void CQtHost::FatalAppExit(const char* text)
 
 void CQtHost::ShowBox(const char* title, const char* text, bool bStop)
 {
-    Box(bStop ? QMessageBox::Critical : QMessageBox::Information, ToQString(title), ToQString(text),
+    Box(Owner(), bStop ? QMessageBox::Critical : QMessageBox::Information, ToQString(title), ToQString(text),
         QMessageBox::Ok);
 }
 
 bool CQtHost::ChooseFolder(const char* title, const char* root, LibString& target)
 {
     const QString start = root != nullptr ? QFile::decodeName(root) : QString();
-    const QString folder = QFileDialog::getExistingDirectory(ActiveWindow(), ToQString(title), start);
+    const QString folder = QFileDialog::getExistingDirectory(Owner(), ToQString(title), start);
     if (folder.isEmpty()) {
         return false;
     }

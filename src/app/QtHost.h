@@ -3,10 +3,12 @@
 #include "document/DocumentHost.h"
 #include "lib/Assertion.h"
 
+class QWidget;
 class CMainFrame;
 class COrrevaDoc;
 
-/// The document's desktop in Qt. Boxes and dialogs stand over the window that is active.
+/// The document's desktop in Qt. Boxes and dialogs stand over the dialog that runs, or
+/// else the main window.
 class CQtHost : public DocumentHost, public AssertDesktop {
 public:
     /// The frame and the document, once they stand; until then titles and repaints go nowhere.
@@ -33,6 +35,8 @@ public:
     bool ChooseFolder(const char* title, const char* root, LibString& target) override;
 
 private:
+    QWidget* Owner() const;
+
     CMainFrame* frame = nullptr;
     COrrevaDoc* document = nullptr;
 };

@@ -68,8 +68,10 @@ TEST_P(CommandDialogs, Open)
         EXPECT_EQ(row.dialog, dialog.metaObject()->className());
         EXPECT_TRUE(dialog.isVisible());
         EXPECT_FALSE(dialog.windowTitle().isEmpty());
+        EXPECT_EQ(&app->Frame(), dialog.parentWidget());
         dialog.reject();
     });
+    QApplication::setActiveWindow(nullptr); // as for a while after a box has closed
     Choose(row.command);
 }
 
