@@ -1,4 +1,5 @@
 #include "app/OrrevaApp.h"
+#include "app/ReadOnlyStyle.h"
 
 #include <QApplication>
 
@@ -12,6 +13,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("Orreva");
     QApplication::setApplicationVersion("0.3.1.34");
     QApplication::setDesktopFileName("orreva");
+    QApplication::setStyle(new CReadOnlyStyle);
 
     COrrevaApp app;
     if (!app.InitInstance(QApplication::arguments().mid(1))) {
