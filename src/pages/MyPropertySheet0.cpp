@@ -47,6 +47,5 @@ CMyPropertySheet0::CMyPropertySheet0(COrrevaDoc& document, QWidget* parent)
     if (g_nWizard != 0) {
         SetWizardMode();
     }
-    // Room for the longest list, so that the sheet keeps its size from page to page.
-    resize(QSize(820, 640).boundedTo(LargestSize()));
+    OpenWithRoom({820, 640});
 }

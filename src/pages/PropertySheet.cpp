@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -20,6 +21,7 @@
 namespace {
 
 constexpr int kPanelWidth = 285;
+constexpr int kUsualDpi = 96;
 
 bool TakesTab(const QWidget* widget) { return (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus; }
 
@@ -81,6 +83,25 @@ CPropertySheet::CPropertySheet(const QString& caption, QWidget* parent) : QDialo
             StayOnScreen();
         }
     });
+    BindPageKeys();
+}
+
+/// The keys that change tabs, in place of the tabs' own, which know of no wizard: a page of that is left by
+/// its buttons, which store it.
+void CPropertySheet::BindPageKeys()
+{
+    const auto bind = [this](QKeyCombination keys, int step) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, step] {
+            if (!wizard) {
+                SetActivePage((ActiveIndex() + step + PageCount()) % PageCount());
+            }
+        });
+    };
+    bind(Qt::CTRL | Qt::Key_Tab, 1);
+    bind(Qt::CTRL | Qt::Key_PageDown, 1);
+    bind(Qt::CTRL | Qt::Key_Backtab, -1);
+    bind(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, -1);
+    bind(Qt::CTRL | Qt::Key_PageUp, -1);
 }
 
 QPushButton* CPropertySheet::AddButton(const QString& text, const char* name,
@@ -116,7 +137,6 @@ void CPropertySheet::SetWizardMode()
 {
     wizard = true;
     tabs->tabBar()->hide();
-    tabs->installEventFilter(this);
     heading->show();
     for (QPushButton* const button : {ok, apply}) {
         button->hide();
@@ -160,6 +180,12 @@ void CPropertySheet::Activate(int index)
     }
     heading->setText(tabs->tabText(index));
     entry.page->OnSetActive();
+    // The keyboard was on a page that went to the back, or nowhere yet.
+    if (focusWidget() == nullptr || focusWidget() == tabs->widget(index)) {
+        if (QWidget* const field = FirstField(entry.page)) {
+            field->setFocus(Qt::TabFocusReason); // which selects what stands there, to type over it
+        }
+    }
 }
 
 void CPropertySheet::Build(Entry& entry, QWidget& place)
@@ -171,11 +197,11 @@ void CPropertySheet::Build(Entry& entry, QWidget& place)
     entry.page->show();
     GrowFor(entry.page);
     PutButtonsLast();
-    // The keyboard was on a page that went to the back, or nowhere yet.
-    QWidget* const field = FirstField(entry.page);
-    if (field != nullptr && (focusWidget() == nullptr || focusWidget() == &place)) {
-        field->setFocus();
-    }
+}
+
+void CPropertySheet::OpenWithRoom(QSize room)
+{
+    resize((room * logicalDpiY() / kUsualDpi).boundedTo(LargestSize()));
 }
 
 QSize CPropertySheet::LargestSize() const
@@ -275,19 +301,6 @@ void CPropertySheet::ShowWizardButtons(unsigned buttons)
         forward->setFocus();
     }
     other->hide();
-}
-
-/// Keeps the keys that change tabs from the wizard: a page is left by its buttons, which store it.
-bool CPropertySheet::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == tabs && event->type() == QEvent::KeyPress) {
-        const auto* const pressed = static_cast<QKeyEvent*>(event);
-        const bool tab = pressed->key() == Qt::Key_Tab || pressed->key() == Qt::Key_Backtab;
-        if (tab && (pressed->modifiers() & Qt::ControlModifier) != 0) {
-            return true;
-        }
-    }
-    return QDialog::eventFilter(watched, event);
 }
 
 void CPropertySheet::keyPressEvent(QKeyEvent* event)

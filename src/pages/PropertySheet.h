@@ -37,16 +37,15 @@ public:
     /// Widens the sheet by a strip at the right of the pages that holds `panel`.
     void AddPanel(QWidget* panel);
 
+    /// Opens the sheet with room for its largest page, so that it keeps its size from page to page: pixels at
+    /// 96 dpi. A page that asks for more still gets it when it is visited.
+    void OpenWithRoom(QSize room);
+
     void accept() override;
 
 protected:
-    /// How large the sheet may become: the screen without its panels and the window's frame, which is guessed
-    /// until the window has one.
-    QSize LargestSize() const;
-
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Entry {
@@ -55,7 +54,11 @@ private:
     };
 
     QPushButton* AddButton(const QString& text, const char* name, void (CPropertySheet::*pressed)());
+    void BindPageKeys();
     void Activate(int index);
+    /// How large the sheet may become: the screen without its panels and the window's frame, which is guessed
+    /// until the window has one.
+    QSize LargestSize() const;
     void StayOnScreen();
     void Build(Entry& entry, QWidget& place);
     void GrowFor(QWidget* page);

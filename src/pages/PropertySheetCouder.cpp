@@ -30,6 +30,7 @@ CPropertySheetCouder::CPropertySheetCouder(COrrevaDoc& document, QWidget* parent
     AddPage("WaveFront Error", NewPage<CPropertyPageCouder4>);
     AddPage("Masken", [&document](QWidget* place) { return new CPropertyPageCouder1(document, place); });
     AddPanel(new CMirrorPanel(document, this));
+    OpenWithRoom({1160, 760});
 }
 
 void CPropertySheetCouder::showEvent(QShowEvent* event)

@@ -3,12 +3,6 @@
 #include "pages/PropertyPageMatchingRonchi1.h"
 #include "pages/PropertyPageMatchingRonchi2.h"
 
-namespace {
-
-constexpr QSize kRoomForThePicture(690, 790);
-
-} // namespace
-
 CPropertySheetMatchingRonchi::CPropertySheetMatchingRonchi(COrrevaDoc& document, QWidget* parent)
     : CPropertySheet(tr("Properties"), parent)
 {
@@ -16,5 +10,5 @@ CPropertySheetMatchingRonchi::CPropertySheetMatchingRonchi(COrrevaDoc& document,
             [&document](QWidget* place) { return new CPropertyPageMatchingRonchi1(document, place); });
     AddPage("Simulation",
             [&document](QWidget* place) { return new CPropertyPageMatchingRonchi2(document, place); });
-    resize(kRoomForThePicture.boundedTo(LargestSize()));
+    OpenWithRoom({690, 790});
 }

@@ -16,6 +16,7 @@ CPropertySheetTube::CPropertySheetTube(COrrevaDoc& doc, QWidget* parent)
     });
     AddDesignPage();
     AddPanel(panel);
+    OpenWithRoom({840, 400});
 }
 
 template <class Page>

@@ -275,6 +275,53 @@ std::vector<const QWidget*> TabRound(CPropertySheet& sheet)
     return reached;
 }
 
+TEST_F(TelescopeSheetGerman, TheSheetKeepsItsSizeFromPageToPage)
+{
+    MakeTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        const QSize size = sheet.size();
+        for (const PageRow& row : kPages) {
+            Visit(sheet, row.page);
+            EXPECT_EQ(size, sheet.size()) << row.german;
+        }
+    });
+}
+
+TEST_F(TelescopeSheet, KeysGoFromTabToTabAndAround)
+{
+    MakeTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        QCoreApplication::processEvents();
+        const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+            return sheet.ActiveIndex();
+        };
+        EXPECT_EQ(kPrimary, press(Qt::Key_Tab, Qt::ControlModifier));
+        EXPECT_EQ(kTube, press(Qt::Key_PageDown, Qt::ControlModifier));
+        EXPECT_EQ(kPrimary, press(Qt::Key_PageUp, Qt::ControlModifier));
+        EXPECT_EQ(kRemarks, press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        ASSERT_EQ(FindControl<QWidget>(sheet.Page(kRemarks), 1000), QApplication::focusWidget());
+        EXPECT_EQ(kBalance, press(Qt::Key_PageUp, Qt::ControlModifier)) << "from the remarks too";
+        EXPECT_EQ(kRemarks, press(Qt::Key_Tab, Qt::ControlModifier));
+    });
+}
+
+TEST_F(TelescopeSheet, TheFirstFieldOfAPageIsSelectedToTypeOverIt)
+{
+    MakeTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        QCoreApplication::processEvents();
+        for (const SheetPage index : {kRemarks, kPrimary, kTube, kSecondary}) {
+            Visit(sheet, index);
+            const auto* const field = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+            ASSERT_NE(nullptr, field) << index;
+            EXPECT_FALSE(field->text().isEmpty());
+            EXPECT_EQ(field->text(), field->selectedText()) << index;
+        }
+    });
+}
+
 TEST_F(TelescopeSheet, TheKeyboardGoesFromTheTabsOverThePageToTheButtons)
 {
     MakeTelescope();
@@ -667,7 +714,7 @@ TEST_F(TelescopeSheet, TheKeysThatChangeTabsDoNotLeadAroundTheWizardsButtons)
 {
     InSheet(kNewDetailed, [](CMyPropertySheet0& sheet) {
         QCoreApplication::processEvents();
-        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_PageDown, Qt::Key_PageUp}) {
             QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
             EXPECT_EQ(kRemarks, sheet.ActiveIndex()) << "a page left so would not be stored";
         }
