@@ -9,7 +9,9 @@ CArtificialStarDialog::CArtificialStarDialog(COrrevaDoc& document, QWidget* pare
     : QDialog(parent), ui(std::make_unique<Ui::ArtificialStarDialog>()), texts(*document.active_record)
 {
     ui->setupUi(this);
+    ui->resolutionDistance->viewport()->setBackgroundRole(QPalette::Window); // as a line that only shows
     ui->precision->setText(ToQString(texts.Precision()));
+    ui->precision->selectAll();
     ui->errorDistance->setText(ToQString(texts.DistanceByError()));
     ui->starDiameter->setText(ToQString(texts.StarDiameter()));
     ui->resolutionDistance->setPlainText(ToQString(texts.DistanceByResolution()));

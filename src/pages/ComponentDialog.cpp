@@ -12,6 +12,7 @@ CComponentDialog::CComponentDialog(COrrevaData& data, std::size_t row, QWidget* 
     const ComponentTexts texts = ReadComponent(record, component);
     ui->weight->setText(ToQString(texts.weight));
     ui->balance->setText(ToQString(texts.balance));
+    ui->weight->selectAll();
     connect(ui->resetWeight, &QAbstractButton::clicked, this,
             [this] { ui->weight->setText(ToQString(ResetComponentWeight(record, component))); });
     connect(ui->resetBalance, &QAbstractButton::clicked, this,

@@ -12,6 +12,7 @@ CSectorDialog::CSectorDialog(QWidget* parent) : QDialog(parent), ui(std::make_un
     // The rows come in the language of the form and are sorted by it; what the index means does not follow.
     ui->type->model()->sort(0);
     ui->diameter->setText(kSectorStartDiameter);
+    ui->diameter->selectAll();
     ui->type->setCurrentIndex(kSectorStartType);
     ui->value->setText(kSectorStartValue);
     OnChange();

@@ -38,6 +38,7 @@ TEST_P(StarDialog, OpensInGermanFromTheRecord)
             EXPECT_EQ(kLabels[i], LabelOf(dialog, 1000 + i));
         }
         EXPECT_EQ("20.00", Text(dialog, 1000));
+        EXPECT_EQ("20.00", FindControl<QLineEdit>(&dialog, 1000)->selectedText()) << "to type over it";
         EXPECT_EQ("73.87m", Text(dialog, 1001));
         EXPECT_EQ("0.050", Text(dialog, 1002));
         EXPECT_EQ("179.36m (Sparrows)\n149.47m (Rayleigh)\n177.81m (Dawes)", Text(dialog, 1003));

@@ -76,7 +76,11 @@ TEST_F(BalancePage, EditingAsksForARowAndExplainsTheMirror)
     MakeMeasuredTelescope();
     InSheet([this](CMyPropertySheet0& sheet) {
         CPropertyPage& page = Visit(sheet, kBalance);
-        InNextDialog<QMessageBox>(BoxWith("Please select a Component first."));
+        InNextDialog<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(&sheet, box.parentWidget());
+            BoxWith("Please select a Component first.")(box);
+        });
+        QApplication::setActiveWindow(nullptr);
         Click(page, 1006);
         SelectRow(page, 0);
         InNextDialog<QMessageBox>(
@@ -113,6 +117,7 @@ TEST_F(BalancePage, AComponentIsEditedInItsDialog)
             EXPECT_EQ("Weight of the component in Gramms", LabelOf(dialog, 1000));
             EXPECT_EQ("Center of Gravity starting from the rear end of the tube", LabelOf(dialog, 1001));
             EXPECT_EQ("4296", TextOf(dialog, 1000));
+            EXPECT_EQ("4296", FindControl<QLineEdit>(&dialog, 1000)->selectedText()) << "to type over it";
             EXPECT_EQ("93", TextOf(dialog, 1001));
             Type(dialog, 1000, "1500,25");
             Type(dialog, 1001, "no number");

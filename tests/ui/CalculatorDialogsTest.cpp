@@ -314,6 +314,7 @@ TEST_P(Calculators, SectorStartsOnTheRowThatSaysAngleInGermanAlone)
 {
     InDialogOf(id::kSectorCalculator, [](QDialog& dialog) {
         EXPECT_EQ(In("Circle Diameter", "Kreisdurchmesser"), LabelOf(dialog, "diameter"));
+        EXPECT_EQ("100", Child<QLineEdit>(dialog, "diameter").selectedText()) << "to type over it";
         EXPECT_EQ(In("Type", "Typ"), LabelOf(dialog, "type"));
         EXPECT_EQ(In("Value", "Wert"), LabelOf(dialog, "value"));
         EXPECT_EQ("100", Child<QLineEdit>(dialog, "diameter").text());
