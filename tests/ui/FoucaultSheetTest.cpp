@@ -370,6 +370,7 @@ TEST_F(FoucaultSheet, TheSheetHoldsThePanelAndStandsInTheMiddleOfTheScreen)
 TEST_F(FoucaultSheet, TheSheetStaysOnTheScreenWhenItsLargestPageMakesItGrow)
 {
     InFoucaultSheet([](CPropertySheetCouder& sheet) {
+        sheet.resize(sheet.minimumSizeHint()); // as a user may leave it
         const QRect opened = sheet.frameGeometry();
         PageOf(sheet, kMasks);
         QCoreApplication::processEvents();
