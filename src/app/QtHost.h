@@ -7,8 +7,7 @@ class QWidget;
 class CMainFrame;
 class COrrevaDoc;
 
-/// The document's desktop in Qt. Boxes and dialogs stand over the dialog that runs, or
-/// else the main window.
+/// The document's desktop in Qt. Boxes and dialogs stand over the dialog that runs, or else the main window.
 class CQtHost : public DocumentHost, public AssertDesktop {
 public:
     /// The frame and the document, once they stand; until then titles and repaints go nowhere.
