@@ -7,7 +7,7 @@
 #include "app/OrrevaApp.h"
 
 #include "app/MainFrame.h"
-#include "app/ReadOnlyStyle.h"
+#include "app/ProgramStyle.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -57,7 +57,7 @@ int StartWorkbench(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
-    QApplication::setStyle(new CReadOnlyStyle);
+    QApplication::setStyle(new CProgramStyle);
     COrrevaApp app;
     if (!app.InitInstance({})) {
         return 1;

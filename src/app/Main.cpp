@@ -1,5 +1,5 @@
 #include "app/OrrevaApp.h"
-#include "app/ReadOnlyStyle.h"
+#include "app/ProgramStyle.h"
 
 #include <QApplication>
 
@@ -13,7 +13,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("Orreva");
     QApplication::setApplicationVersion("0.3.1.34");
     QApplication::setDesktopFileName("orreva");
-    QApplication::setStyle(new CReadOnlyStyle);
+    QApplication::setStyle(new CProgramStyle);
 
     COrrevaApp app;
     if (!app.InitInstance(QApplication::arguments().mid(1))) {

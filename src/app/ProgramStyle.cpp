@@ -1,0 +1,39 @@
+#include "app/ProgramStyle.h"
+
+#include "views/ResultList.h"
+
+#include <QHeaderView>
+#include <QStyleOptionFrame>
+
+namespace {
+
+/// On either side of a column's texts, in pixels.
+constexpr int kColumnGap = 4;
+
+bool IsOfResultList(const QWidget* widget)
+{
+    const auto* const header = qobject_cast<const QHeaderView*>(widget);
+    return qobject_cast<const CResultList*>(header != nullptr ? header->parent() : widget) != nullptr;
+}
+
+} // namespace
+
+void CProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                  const QWidget* widget) const
+{
+    const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (element == PE_PanelLineEdit && frame != nullptr && frame->state.testFlag(State_ReadOnly)) {
+        QStyleOptionFrame shown(*frame);
+        shown.palette.setBrush(QPalette::Base, frame->palette.window());
+        QProxyStyle::drawPrimitive(element, &shown, painter, widget);
+        return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+int CProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const int desktops = QProxyStyle::pixelMetric(metric, option, widget);
+    const bool margin = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
+    return margin && IsOfResultList(widget) ? desktops + kColumnGap : desktops;
+}
