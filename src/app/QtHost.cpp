@@ -56,13 +56,14 @@ int Box(QWidget* owner, QMessageBox::Icon icon, const QString& title, const QStr
     return box.exec();
 }
 
-/// The choices of a filter in pipe notation, "Text (*.ext)|*.ext|...||": the texts hold their patterns.
+/// The choices of a filter in pipe notation, "Text (*.ext)|*.ext|...||", each with its pattern once more for
+/// the toolkit, which hides it. There `*.*` would leave out the names without a point.
 QStringList NameFilters(const char* pipes)
 {
     const QStringList pieces = QString::fromUtf8(pipes).split('|', Qt::SkipEmptyParts);
     QStringList filters;
-    for (qsizetype i = 0; i < pieces.size(); i += 2) {
-        filters << pieces[i];
+    for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
+        filters << pieces[i] + '(' + (pieces[i + 1] == "*.*" ? "*" : pieces[i + 1]) + ')';
     }
     return filters;
 }
@@ -136,6 +137,7 @@ std::string CQtHost::AskPath(const FileDialog& mask)
     dialog.setAcceptMode(mask.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     // A name that is typed and does not exist is the document's to tell.
     dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(NameFilters(mask.filter));
     dialog.setDefaultSuffix(QString::fromStdString(FilterEnding(mask)));
     dialog.selectFile(mask.file_name);

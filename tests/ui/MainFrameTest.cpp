@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QPrinter>
 #include <QRadioButton>
@@ -32,6 +33,8 @@ bool Shows(QWidget& pane, const QColor& colour)
     }
     return false;
 }
+
+QComboBox& FileTypes(const QFileDialog& dialog) { return *dialog.findChild<QComboBox*>("fileTypeCombo"); }
 
 const QColor kYellow(255, 255, 0);
 const QColor kGreen(0, 255, 64);
@@ -407,8 +410,7 @@ TEST_F(MainFrame, AcceleratorsGiveTheirCommands)
     }
     activate();
     InNextDialog<QFileDialog>([](QFileDialog& dialog) {
-        EXPECT_EQ("File Type Orreva (*.orreva)", dialog.nameFilters().constFirst())
-            << "the old format, not Open";
+        EXPECT_EQ("File Type Orreva (*.orreva)", FileTypes(dialog).itemText(0)) << "the old format, not Open";
         dialog.reject();
     });
     press(Qt::Key_O, Qt::ControlModifier);
@@ -420,7 +422,7 @@ TEST_F(MainFrame, AcceleratorsGiveTheirCommands)
 TEST_F(MainFrame, OpenTellsOfAMissingFileAndGoesOn)
 {
     InNextDialog<QFileDialog>([this](QFileDialog& dialog) {
-        EXPECT_EQ("Orreva Dateien (*.orreva.xml)", dialog.nameFilters().constFirst());
+        EXPECT_EQ("Orreva Dateien (*.orreva.xml)", FileTypes(dialog).itemText(0));
         InNextDialog<QMessageBox>([](QMessageBox& box) {
             EXPECT_EQ("Die Datei noname.orreva.xml existiert nicht!", box.text());
             box.accept();
@@ -430,6 +432,38 @@ TEST_F(MainFrame, OpenTellsOfAMissingFileAndGoesOn)
     });
     Choose(32802);
     EXPECT_FALSE(app->Document().HasFile());
+}
+
+/// The names in the list of a file dialog.
+QStringList ShownFiles(const QFileDialog& dialog)
+{
+    const auto& list = *dialog.findChild<QListView*>("listView");
+    QStringList names;
+    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row) {
+        names << list.model()->index(row, 0, list.rootIndex()).data().toString();
+    }
+    names.sort();
+    return names;
+}
+
+TEST_F(MainFrame, TheFileDialogsListTheFilesOfTheChosenType)
+{
+    const TemporaryFolder files;
+    for (const char* name : {"mine.orreva.xml", "notes.txt", "telescope"}) {
+        files.Write(name, "");
+    }
+    InNextDialog<QFileDialog>([&files](QFileDialog& dialog) {
+        dialog.setDirectory(QString::fromStdString(files.Path().string())); // it begins in the last one used
+        QComboBox& types = FileTypes(dialog);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ShownFiles(dialog) == QStringList{"mine.orreva.xml"}; }));
+        EXPECT_EQ("All Files (*.*)", types.itemText(1));
+        types.setFocus();
+        QTest::keyClick(&types, Qt::Key_Down);
+        const QStringList all{"mine.orreva.xml", "notes.txt", "telescope"};
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ShownFiles(dialog) == all; }));
+        dialog.reject();
+    });
+    Choose(32802);
 }
 
 TEST_F(MainFrame, PrintingLeavesTheScreensZoomAlone)
