@@ -760,6 +760,9 @@ TEST(ExpressionEvaluator, SetsThePrecisionOfDecimals)
     EXPECT_STREQ("9999999998", evaluator.Format(9999999998.0));
     EXPECT_TRUE(evaluator.SetFixedPrecision(127));
     EXPECT_EQ(1u + 309u + 1u + 127u, std::string(evaluator.Format(-1.7e308)).size());
+    EXPECT_TRUE(evaluator.SetPrecision(127));
+    evaluator.SetFixed(false);
+    EXPECT_STREQ("0.1000000000000000055511151231257827021181583404541015625", evaluator.Format(0.1));
     EXPECT_TRUE(evaluator.SetPrecision(0));
 }
 
