@@ -7,6 +7,7 @@
 
 #include <cstdlib>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -107,6 +108,19 @@ TEST(Moon, KnowsTheEpactsOfTheGregorianCalendar)
     EXPECT_EQ(22, MoonEpact(1750));
     // 1600: golden number 5; correction 1: 45 % 30.
     EXPECT_EQ(15, MoonEpact(1600));
+}
+
+TEST(Moon, CorrectsTheEpactFromCenturyToCentury)
+{
+    // Worked out step by step by a script of its own.
+    const std::pair<std::int32_t, std::int32_t> rows[] = {
+        {1583, 7}, {1700, 10}, {1701, 20}, {1799, 23}, {1800, 4},  {1801, 15}, {1899, 18}, {1901, 10},
+        {2001, 5}, {2024, 19}, {2099, 8},  {2100, 19}, {2101, 30}, {2199, 3},  {2200, 14}, {2201, 24},
+        {2300, 9}, {2400, 3},  {2401, 15}, {2500, 29}, {2700, 18}, {2999, 21}, {3000, 2},  {3199, 11},
+    };
+    for (const auto& [year, epact] : rows) {
+        EXPECT_EQ(epact, MoonEpact(year)) << year;
+    }
 }
 
 TEST(Moon, AgesFromMonthToMonth)

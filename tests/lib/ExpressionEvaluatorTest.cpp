@@ -86,6 +86,12 @@ TEST(ExpressionEvaluator, BindsOperatorsByLevelAndToTheLeft)
                   {"(1+2)*3", 9}});
 }
 
+TEST(ExpressionEvaluator, BindsNoDivisionTighterThanAProduct)
+{
+    CExpressionEvaluator evaluator;
+    EXPECT_EQ(2.1, evaluator.Evaluate("3*7/10")) << "3*(7/10) is 2.0999999999999996";
+}
+
 TEST(ExpressionEvaluator, OnlyOperandsUpToOneHaveAFactorial)
 {
     ExpectValues({{"0!", 1},

@@ -62,6 +62,9 @@ TEST(LibSupWin32Text, AppendsWhatFits)
     EXPECT_STREQ("abcd", text);
     AppendLimited(text, "efghij", sizeof text);
     EXPECT_STREQ("abcdefg", text);
+    text[6] = 0;
+    AppendLimited(text, "gh", sizeof text);
+    EXPECT_STREQ("abcdefg", text) << "the last place but one";
     AppendLimited(text, "x", sizeof text);
     EXPECT_STREQ("abcdefg", text);
     AppendLimited(text, "x", 3);
