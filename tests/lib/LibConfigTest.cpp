@@ -159,6 +159,17 @@ TEST_F(ConfigFile, OpensOnceAndClosesOnce)
     EXPECT_EQ(54, file.Close());
 }
 
+TEST_F(ConfigFile, ASectionsNameMustFitTheBuffer)
+{
+    Is("[four]\n[five5]\n");
+    char name[10] = "before";
+    ASSERT_EQ(0, file.Open());
+    EXPECT_EQ(71, file.NextSection(name, 4)) << "no room for the end of the text";
+    EXPECT_EQ(0, file.NextSection(name, 6));
+    EXPECT_STREQ("five5", name);
+    EXPECT_EQ(0, file.Close());
+}
+
 TEST_F(ConfigFile, AValueMustFitTheBuffer)
 {
     Is("[s]\nname=12345\nquoted=\"123\"\n");
