@@ -1,5 +1,6 @@
 #include "../tests/support/StepwiseCalendar.h"
-#include "lib/Calendar.h"
+#include "lib/calendar/CalDate.h"
+#include "lib/calendar/Calendar.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,4 +1,4 @@
-#include "lib/ExpressionEvaluator.h"
+#include "lib/expression/ExpressionEvaluator.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,8 +1,8 @@
 // The table of the simulated field: 251 counts of light paths, ours beside the point by point loop. Both give
 // the same counts, or the run says so and fails.
 
-#include "model/FieldSimulation.h"
-#include "model/LightPaths.h"
+#include "model/optics/FieldSimulation.h"
+#include "model/optics/LightPaths.h"
 #include "support/DirectLightPaths.h"
 
 #include <benchmark/benchmark.h>

@@ -1,5 +1,5 @@
 #include "document/XmlScanner.h"
-#include "model/RecordFields.h"
+#include "model/record/RecordFields.h"
 #include "support/DirectScanner.h"
 
 #include <benchmark/benchmark.h>

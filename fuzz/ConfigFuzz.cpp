@@ -1,7 +1,7 @@
-#include "lib/CharTools.h"
-#include "lib/FileBytes.h"
-#include "lib/LibConfig.h"
-#include "lib/LibSup.h"
+#include "lib/config/LibConfig.h"
+#include "lib/files/FileBytes.h"
+#include "lib/platform/LibSup.h"
+#include "lib/text/CharTools.h"
 
 #include <cstdint>
 #include <cstdio>

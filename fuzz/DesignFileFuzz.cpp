@@ -1,8 +1,8 @@
 #include "document/OrrevaDoc.h"
 #include "document/TelescopeFile.h"
 #include "document/XmlScanner.h"
-#include "lib/Log.h"
-#include "model/RecordFields.h"
+#include "lib/text/LogSink.h"
+#include "model/record/RecordFields.h"
 #include "support/DirectScanner.h"
 #include "support/SilentHost.h"
 

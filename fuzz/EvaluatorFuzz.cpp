@@ -1,5 +1,5 @@
-#include "lib/ErrCode.h"
-#include "lib/ExpressionEvaluator.h"
+#include "lib/expression/ExpressionEvaluator.h"
+#include "lib/text/ErrCode.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include "model/Eyepieces.h"
+#include "model/analysis/Eyepieces.h"
 
-#include "lib/Language.h"
+#include "lib/text/Language.h"
 
 #include <cstdint>
 #include <cstdlib>

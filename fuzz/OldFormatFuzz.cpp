@@ -4,7 +4,7 @@
 #include "document/OsloExport.h"
 #include "document/TelescopeFile.h"
 #include "document/XmlScanner.h"
-#include "lib/Log.h"
+#include "lib/text/LogSink.h"
 #include "support/SilentHost.h"
 
 // Any bytes as an old file; what came in must go out by every way that writes a telescope.
@@ -18,7 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     COrrevaData again;
     ReadTelescope(XmlScanner::FromText(WriteTelescope(*document.active_record)), again);
+    document.Recalculate();
     FtaExport(*document.active_record);
-    OsloExport(document);
+    OsloExport(*document.active_record);
     return 0;
 }

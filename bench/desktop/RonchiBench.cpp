@@ -2,7 +2,7 @@
 // paint the same dots, or the run says so and fails.
 
 #include "drawing/RonchiPicture.h"
-#include "views/PainterSurface.h"
+#include "painting/PainterSurface.h"
 
 #include <benchmark/benchmark.h>
 

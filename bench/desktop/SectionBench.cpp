@@ -2,9 +2,9 @@
 // one is copied, and beside the picture at zoom 1.
 
 #include "drawing/SectionPicture.h"
-#include "lib/Language.h"
-#include "model/OrrevaData.h"
-#include "views/PainterSurface.h"
+#include "lib/text/Language.h"
+#include "model/record/OrrevaData.h"
+#include "painting/PainterSurface.h"
 
 #include <benchmark/benchmark.h>
 

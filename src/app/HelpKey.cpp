@@ -1,7 +1,7 @@
 #include "app/HelpKey.h"
 
-#include "pages/Controls.h"
-#include "pages/Help.h"
+#include "pages/sheet/Controls.h"
+#include "pages/sheet/Help.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,6 +1,6 @@
 #include "app/HelpPages.h"
 
-#include "pages/Help.h"
+#include "pages/sheet/Help.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include "app/OrrevaApp.h"
 #include "app/Printing.h"
 #include "document/Commands.h"
-#include "lib/Language.h"
-#include "pages/AboutBox.h"
-#include "pages/Help.h"
+#include "lib/text/Language.h"
+#include "pages/dialogs/AboutBox.h"
+#include "pages/sheet/Help.h"
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
 

@@ -1,16 +1,16 @@
 #include "app/Modals.h"
 
 #include "document/OrrevaDoc.h"
-#include "pages/ArtificialStarDialog.h"
-#include "pages/CalculatorDialog.h"
-#include "pages/FieldSimulationDlg.h"
-#include "pages/InchDialog.h"
-#include "pages/MyPropertySheet0.h"
-#include "pages/PolygonDialog.h"
-#include "pages/PropertySheetCouder.h"
-#include "pages/PropertySheetMatchingRonchi.h"
-#include "pages/PropertySheetTube.h"
-#include "pages/SectorDialog.h"
+#include "pages/optics/ArtificialStarDialog.h"
+#include "pages/optics/FieldSimulationDlg.h"
+#include "pages/optics/PropertySheetCouder.h"
+#include "pages/optics/PropertySheetMatchingRonchi.h"
+#include "pages/telescope/MyPropertySheet0.h"
+#include "pages/tools/CalculatorDialog.h"
+#include "pages/tools/InchDialog.h"
+#include "pages/tools/PolygonDialog.h"
+#include "pages/tools/SectorDialog.h"
+#include "pages/tube/PropertySheetTube.h"
 
 #include <QDialog>
 

@@ -1,6 +1,6 @@
 #include "app/MyDialogBar.h"
 
-#include "views/QtText.h"
+#include "painting/QtText.h"
 
 #include "ui_MyDialogBar.h"
 

@@ -2,10 +2,10 @@
 
 #include "app/HelpPages.h"
 #include "app/MainFrame.h"
-#include "lib/CodePage.h"
-#include "lib/Language.h"
-#include "lib/Log.h"
-#include "pages/Help.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Language.h"
+#include "lib/text/Log.h"
+#include "pages/sheet/Help.h"
 
 #include <QApplication>
 #include <QDesktopServices>

@@ -4,9 +4,9 @@
 #include "app/Modals.h"
 #include "document/FileMasks.h"
 #include "document/OrrevaDoc.h"
-#include "pages/QuickNewDialog.h"
-#include "pages/RaytracingSettingsDialog.h"
-#include "views/QtText.h"
+#include "pages/dialogs/QuickNewDialog.h"
+#include "pages/dialogs/RaytracingSettingsDialog.h"
+#include "painting/QtText.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/DocumentHost.h"
-#include "lib/Assertion.h"
+#include "lib/text/Assertion.h"
 
 class QWidget;
 class CMainFrame;

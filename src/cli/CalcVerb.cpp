@@ -1,8 +1,8 @@
 #include "cli/CalcVerb.h"
 
 #include "cli/Output.h"
-#include "lib/CodePage.h"
-#include "model/Calculator.h"
+#include "lib/text/CodePage.h"
+#include "model/tools/Calculator.h"
 
 #include <cstdio>
 #include <optional>

@@ -8,9 +8,9 @@
 #include "drawing/SectorPicture.h"
 #include "drawing/SummaryPicture.h"
 #include "drawing/TubePanelPicture.h"
-#include "lib/FileBytes.h"
-#include "lib/Numbers.h"
-#include "views/PainterSurface.h"
+#include "lib/files/FileBytes.h"
+#include "lib/text/Numbers.h"
+#include "painting/PainterSurface.h"
 
 #include <QBuffer>
 #include <QGuiApplication>

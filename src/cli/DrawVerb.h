@@ -2,7 +2,7 @@
 
 #include "cli/ViewOptions.h"
 #include "drawing/Surface.h"
-#include "model/Summary.h"
+#include "model/analysis/Summary.h"
 
 #include <span>
 #include <string>

@@ -13,7 +13,8 @@ namespace {
 
 int ExportOslo(COrrevaDoc& document, const std::string& output)
 {
-    return WriteOutput(output, OsloExport(document));
+    document.Recalculate();
+    return WriteOutput(output, OsloExport(*document.active_record));
 }
 
 int ExportFta(COrrevaDoc& document, const std::string& output)

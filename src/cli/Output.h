@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lib/FileBytes.h"
+#include "lib/files/FileBytes.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "cli/RaysVerb.h"
 
 #include "cli/ViewOptions.h"
-#include "lib/CodePage.h"
-#include "lib/LibString.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/LibString.h"
 #include "raytrace/RaySets.h"
 
 std::string RaysText(COrrevaData& record, const ViewOptions& options, int language)

@@ -2,10 +2,10 @@
 
 #include "cli/Output.h"
 #include "cli/Words.h"
-#include "lib/CodePage.h"
-#include "lib/FileBytes.h"
-#include "lib/Numbers.h"
-#include "model/RecordFields.h"
+#include "lib/files/FileBytes.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Numbers.h"
+#include "model/record/RecordFields.h"
 
 #include <cstdio>
 

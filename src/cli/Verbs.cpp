@@ -5,13 +5,13 @@
 #include "cli/ExchangeVerbs.h"
 #include "cli/Output.h"
 #include "cli/RaysVerb.h"
-#include "cli/Report.h"
 #include "cli/Telescope.h"
 #include "cli/Words.h"
+#include "cli/report/Report.h"
 #include "document/TelescopeFile.h"
 #include "drawing/SectionZoom.h"
-#include "lib/CodePage.h"
-#include "lib/Numbers.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Numbers.h"
 
 #include <limits>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "cli/Words.h"
 
-#include "lib/CharTools.h"
-#include "lib/Numbers.h"
+#include "lib/text/CharTools.h"
+#include "lib/text/Numbers.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/OrrevaData.h"
+#include "model/record/OrrevaData.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #include "document/FileMasks.h"
 
-#include "lib/FileQueries.h"
+#include "lib/files/FileQueries.h"
 
 #include <filesystem>
 #include <string_view>

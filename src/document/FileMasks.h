@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/DocumentHost.h"
-#include "lib/Language.h"
+#include "lib/text/Language.h"
 
 #include <string>
 

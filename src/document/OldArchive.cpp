@@ -1,6 +1,6 @@
 #include "document/OldArchive.h"
 
-#include "lib/CodePage.h"
+#include "lib/text/CodePage.h"
 
 #include <bit>
 #include <limits>

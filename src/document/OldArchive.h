@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lib/LibString.h"
+#include "lib/text/LibString.h"
 
 #include <cstdint>
 #include <optional>

@@ -2,19 +2,46 @@
 
 #include "document/FileMasks.h"
 #include "document/FtaExport.h"
+#include "document/OldArchive.h"
+#include "document/OldFormat.h"
 #include "document/OsloExport.h"
-#include "lib/CodePage.h"
-#include "lib/FileBytes.h"
-#include "lib/Log.h"
-#include "lib/Numbers.h"
-#include "model/CentreMarks.h"
+#include "document/TelescopeFile.h"
+#include "lib/files/FileBytes.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Log.h"
+#include "lib/text/Numbers.h"
+#include "model/optics/CentreMarks.h"
+
+#include <filesystem>
+
+namespace {
+
+/// No builder's remarks come near it; what stands behind it is not read.
+constexpr std::size_t kLargestOldFile = std::size_t{64} << 20;
+
+constexpr Bilingual kNotOpened{"The file %s cannot be opened.",
+                               "Die Datei %s kann nicht geöffnet werden."_cp1252};
+constexpr Bilingual kDamaged{
+    "The file %s ends too early. It is damaged, or no file of the old Orreva format.",
+    "Die Datei %s endet zu früh. Sie ist beschädigt oder keine Datei im alten Orreva-Format."_cp1252};
+
+void Tell(RecordHost& host, const Bilingual& text, const char* path)
+{
+    LibString message;
+    message.Format(text.In(g_nLanguage), Cp1252FromUtf8(path).c_str());
+    host.ShowMessage(message);
+}
+
+} // namespace
 
 COrrevaDoc* g_pCurrentDocument = nullptr;
 int g_nWizard = 0;
 
 // The records clear themselves while the document is being built. It is not the current one then, so that
 // nothing is asked of its host.
-COrrevaDoc::COrrevaDoc(DocumentHost& desktop) : main_record(this), scratch_record(this), host(desktop) {}
+COrrevaDoc::COrrevaDoc(DocumentHost& desktop)
+    : main_record(this, &DesignFiles()), scratch_record(this, &DesignFiles()), host(desktop)
+{}
 
 COrrevaDoc::~COrrevaDoc()
 {
@@ -126,7 +153,38 @@ void COrrevaDoc::OnImportOld()
     }
 }
 
-void COrrevaDoc::OnExportOslo() { WriteExport(kExportOslo, OsloExport(*this), "Error writing"); }
+bool COrrevaDoc::Serialize(OldArchive& archive)
+{
+    if (!ImportOld(archive, *active_record, host)) {
+        return false;
+    }
+    Recalculate();
+    UpdateAllViews();
+    return true;
+}
+
+bool COrrevaDoc::OpenOldFormat(const char* path)
+{
+    const auto bytes = ReadFileBytes(path, kLargestOldFile);
+    if (!bytes) {
+        Tell(host, kNotOpened, path);
+        return false;
+    }
+    OldArchive archive(*bytes);
+    if (!Serialize(archive)) {
+        Tell(host, kDamaged, path);
+        UpdateAllViews(); // the record may hold a part of the file now
+        return false;
+    }
+    host.SetDocumentTitle(std::filesystem::path(path).filename().c_str());
+    return true;
+}
+
+void COrrevaDoc::OnExportOslo()
+{
+    Recalculate();
+    WriteExport(kExportOslo, OsloExport(*active_record), "Error writing");
+}
 
 void COrrevaDoc::OnExportFta() { WriteExport(kExportFta, FtaExport(*active_record), "Error writing..."); }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/DocumentHost.h"
-#include "model/OrrevaData.h"
+#include "model/record/OrrevaData.h"
 #include "raytrace/ViewSwitches.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "document/OsloExport.h"
 
-#include "document/OrrevaDoc.h"
+#include "model/record/OrrevaData.h"
 
 #include <array>
 #include <cstdio>
@@ -99,10 +99,8 @@ const char* FormatOsloNumber(double value, int precision)
     return buffer;
 }
 
-std::string OsloExport(COrrevaDoc& document)
+std::string OsloExport(COrrevaData& data)
 {
-    document.Recalculate();
-    COrrevaData& data = *document.active_record;
     const Lens lens = ReadLens(data);
 
     std::string text = std::string("// OSLO 6.3") + kLineEnd;

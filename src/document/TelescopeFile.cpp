@@ -1,15 +1,11 @@
 #include "document/TelescopeFile.h"
 
 #include "document/XmlScanner.h"
-#include "lib/Assertion.h"
-#include "lib/CodePage.h"
-#include "lib/FileBytes.h"
-#include "lib/FileQueries.h"
-#include "lib/Numbers.h"
-#include "model/RecordFields.h"
+#include "lib/files/FileBytes.h"
+#include "lib/text/Numbers.h"
+#include "model/record/RecordFields.h"
 
 #include <cmath>
-#include <cstring>
 #include <vector>
 
 namespace {
@@ -108,29 +104,22 @@ private:
     std::vector<std::string_view> open;
 };
 
-/// A wait cursor for as long as it lives.
-class Wait {
+class TelescopeFiles : public RecordFiles {
 public:
-    explicit Wait(RecordHost* recordHost) : host(recordHost)
+    bool Write(const COrrevaData& record) override
     {
-        if (host != nullptr) {
-            host->BeginWait();
-        }
+        return ReplaceFile(record.file_path, WriteTelescope(record));
     }
-    ~Wait()
-    {
-        if (host != nullptr) {
-            host->EndWait();
-        }
-    }
-    Wait(const Wait&) = delete;
-    Wait& operator=(const Wait&) = delete;
-
-private:
-    RecordHost* host;
+    void Read(COrrevaData& record) override { ReadTelescope(XmlScanner(record.file_path), record); }
 };
 
 } // namespace
+
+RecordFiles& DesignFiles()
+{
+    static TelescopeFiles files;
+    return files;
+}
 
 std::string WriteTelescope(const COrrevaData& data)
 {
@@ -151,50 +140,4 @@ void ReadTelescope(const XmlScanner& scanner, COrrevaData& data)
             scanner.GetValue((std::string("telescope/") + field.key).c_str(), value, sizeof value);
         std::visit(StoreText{data, text != nullptr ? text : ""}, field.field);
     }
-}
-
-int COrrevaData::Save()
-{
-    if (!HasFile()) {
-        return SaveAs(nullptr);
-    }
-    if (!ReplaceFile(file_path, WriteTelescope(*this))) {
-        return 1;
-    }
-    modified = 0;
-    return 0;
-}
-
-int COrrevaData::SaveAs(const char* pfn)
-{
-    ORREVA_ASSERT(pfn != NULL, "OrrevaDoc");
-    if (pfn == nullptr) {
-        return 1;
-    }
-    ORREVA_ASSERT(strlen(pfn) > 0, "OrrevaDoc");
-    if (*pfn == 0) {
-        return 1;
-    }
-    file_path = pfn;
-    SetTitleOfDocument();
-    return Save();
-}
-
-int COrrevaData::Load(const char* path)
-{
-    const Wait wait(host);
-    if (path == nullptr || FileExists(path) == 0) {
-        LibString message;
-        message.Format("Die Datei %s existiert nicht!", Cp1252FromUtf8(file_path.GetText()).c_str());
-        if (host != nullptr) {
-            host->ShowMessage(message);
-        }
-        Clear();
-        return 1;
-    }
-    file_path = path;
-    SetTitleOfDocument();
-    ReadTelescope(XmlScanner(file_path), *this); // `path` may have been the text that is replaced now
-    modified = 0;
-    return 0;
 }

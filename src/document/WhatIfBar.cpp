@@ -1,8 +1,8 @@
 #include "document/WhatIfBar.h"
 
-#include "lib/CodePage.h"
-#include "lib/Log.h"
-#include "lib/Numbers.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Log.h"
+#include "lib/text/Numbers.h"
 
 namespace {
 

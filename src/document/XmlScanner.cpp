@@ -1,6 +1,6 @@
 #include "document/XmlScanner.h"
 
-#include "lib/FileBytes.h"
+#include "lib/files/FileBytes.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,8 +1,8 @@
 #include "drawing/FieldPicture.h"
 
-#include "lib/CodePage.h"
-#include "lib/FormatText.h"
-#include "lib/Numbers.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/FormatText.h"
+#include "lib/text/Numbers.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "drawing/LabelLayout.h"
 
-#include "lib/Numbers.h"
+#include "lib/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drawing/Surface.h"
-#include "model/PanelRows.h"
+#include "model/analysis/PanelRows.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 #include "drawing/PixelRuns.h"
 
-#include "lib/Numbers.h"
+#include "lib/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 #include "drawing/PolygonPicture.h"
 
 #include "drawing/LabelLayout.h"
-#include "lib/CodePage.h"
-#include "lib/FormatText.h"
-#include "lib/Numbers.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/FormatText.h"
+#include "lib/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drawing/Surface.h"
-#include "model/PolygonMeasures.h"
+#include "model/tools/PolygonMeasures.h"
 
 /// Paints the cross-section of a polygonal tube with its cutting measures, or why it cannot be drawn. A type
 /// that the list does not have draws nothing.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lib/Numbers.h"
+#include "lib/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "drawing/RonchiPicture.h"
 
-#include "lib/FormatText.h"
-#include "model/RonchiTolerance.h"
+#include "lib/text/FormatText.h"
+#include "model/optics/RonchiTolerance.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "drawing/RonchiDots.h"
 #include "drawing/Surface.h"
-#include "model/OrrevaData.h"
+#include "model/record/OrrevaData.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "drawing/SectionMapping.h"
 
-#include "lib/Numbers.h"
-#include "model/OrrevaData.h"
+#include "lib/text/Numbers.h"
+#include "model/record/OrrevaData.h"
 
 #include <algorithm>
 

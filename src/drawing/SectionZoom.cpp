@@ -1,6 +1,6 @@
 #include "drawing/SectionZoom.h"
 
-#include "lib/Numbers.h"
+#include "lib/text/Numbers.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "drawing/SectorPicture.h"
 
 #include "drawing/LabelLayout.h"
-#include "lib/CodePage.h"
-#include "lib/FormatText.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/FormatText.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "drawing/SummaryPicture.h"
 
-#include "model/OrrevaData.h"
-#include "model/Summary.h"
+#include "model/analysis/Summary.h"
+#include "model/record/OrrevaData.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include "raytrace/ParallelStatus.h"
 
-#include "lib/CodePage.h"
-#include "lib/Language.h"
-#include "lib/LibString.h"
-#include "lib/Numbers.h"
-#include "model/Formulas.h"
-#include "model/OrrevaData.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Language.h"
+#include "lib/text/LibString.h"
+#include "lib/text/Numbers.h"
+#include "model/record/Formulas.h"
+#include "model/record/OrrevaData.h"
 
 #include <cmath>
 

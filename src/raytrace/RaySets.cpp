@@ -1,7 +1,7 @@
 #include "raytrace/RaySets.h"
 
-#include "lib/Numbers.h"
-#include "model/OrrevaData.h"
+#include "lib/text/Numbers.h"
+#include "model/record/OrrevaData.h"
 
 namespace {
 

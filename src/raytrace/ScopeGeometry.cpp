@@ -1,6 +1,6 @@
 #include "raytrace/ScopeGeometry.h"
 
-#include "model/OrrevaData.h"
+#include "model/record/OrrevaData.h"
 
 ScopeGeometry BuildGeometry(COrrevaData& record, bool show_offset)
 {

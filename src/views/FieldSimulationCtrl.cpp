@@ -1,7 +1,7 @@
 #include "views/FieldSimulationCtrl.h"
 
 #include "drawing/FieldPicture.h"
-#include "views/PainterSurface.h"
+#include "painting/PainterSurface.h"
 
 #include <QPainter>
 

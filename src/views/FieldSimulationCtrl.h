@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/FieldSimulation.h"
+#include "model/optics/FieldSimulation.h"
 
 #include <QWidget>
 

@@ -2,9 +2,9 @@
 
 #include "document/OrrevaDoc.h"
 #include "drawing/SummaryPicture.h"
-#include "lib/Language.h"
-#include "model/Summary.h"
-#include "views/PainterSurface.h"
+#include "lib/text/Language.h"
+#include "model/analysis/Summary.h"
+#include "painting/PainterSurface.h"
 
 #include <QPainter>
 #include <QPrinter>

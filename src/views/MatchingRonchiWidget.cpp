@@ -2,7 +2,7 @@
 
 #include "document/OrrevaDoc.h"
 #include "drawing/RonchiPicture.h"
-#include "views/PainterSurface.h"
+#include "painting/PainterSurface.h"
 
 #include <QPainter>
 

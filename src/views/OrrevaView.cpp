@@ -2,9 +2,9 @@
 
 #include "document/Commands.h"
 #include "drawing/SectionPicture.h"
-#include "lib/Language.h"
-#include "lib/Log.h"
-#include "views/PainterSurface.h"
+#include "lib/text/Language.h"
+#include "lib/text/Log.h"
+#include "painting/PainterSurface.h"
 
 #include <QCursor>
 #include <QMouseEvent>

@@ -1,6 +1,6 @@
 #include "views/Panel.h"
 
-#include "views/PainterSurface.h"
+#include "painting/PainterSurface.h"
 
 #include <QPainter>
 

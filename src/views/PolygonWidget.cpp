@@ -1,8 +1,8 @@
 #include "views/PolygonWidget.h"
 
 #include "drawing/PolygonPicture.h"
-#include "lib/Language.h"
-#include "views/PainterSurface.h"
+#include "lib/text/Language.h"
+#include "painting/PainterSurface.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #include "views/ResultList.h"
 
-#include "views/QtText.h"
+#include "painting/QtText.h"
 
 #include <QAbstractTableModel>
 #include <QAction>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/ListColumn.h"
-#include "model/ListRow.h"
+#include "model/rows/ListColumn.h"
+#include "model/rows/ListRow.h"
 
 #include <QTreeView>
 

@@ -1,8 +1,8 @@
 #include "views/SectorWidget.h"
 
 #include "drawing/SectorPicture.h"
-#include "lib/Language.h"
-#include "views/PainterSurface.h"
+#include "lib/text/Language.h"
+#include "painting/PainterSurface.h"
 
 #include <QPainter>
 

@@ -2,7 +2,7 @@
 
 #include "document/OrrevaDoc.h"
 #include "drawing/TubePanelPicture.h"
-#include "lib/Language.h"
+#include "lib/text/Language.h"
 
 void CTubePanel::Paint(Surface& surface, Colour background, Colour text)
 {

@@ -1,6 +1,6 @@
 #include "cli/DrawVerb.h"
 
-#include "lib/Language.h"
+#include "lib/text/Language.h"
 #include "support/SampleScopes.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,6 +1,6 @@
 #include "cli/ExchangeVerbs.h"
 
-#include "lib/Log.h"
+#include "lib/text/LogSink.h"
 #include "support/GoldenFile.h"
 #include "support/RecordingHost.h"
 #include "support/TemporaryFolder.h"

@@ -1,7 +1,7 @@
 #include "cli/RaysVerb.h"
 
 #include "cli/ViewOptions.h"
-#include "lib/Language.h"
+#include "lib/text/Language.h"
 #include "support/SampleScopes.h"
 
 #include <gtest/gtest.h>

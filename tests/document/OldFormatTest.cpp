@@ -1,9 +1,10 @@
 #include "document/Commands.h"
 #include "document/OldArchive.h"
+#include "document/OldFormat.h"
 #include "document/TelescopeFile.h"
-#include "lib/CodePage.h"
-#include "lib/Language.h"
-#include "model/RecordFields.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Language.h"
+#include "model/record/RecordFields.h"
 #include "support/GoldenFile.h"
 #include "support/RecordingHost.h"
 #include "support/TemporaryFolder.h"
@@ -70,7 +71,7 @@ protected:
     bool Import(const std::string& bytes)
     {
         OldArchive archive(bytes);
-        return doc.main_record.ImportOld(archive);
+        return ImportOld(archive, doc.main_record, host);
     }
     bool Open(const std::string& bytes)
     {
@@ -310,7 +311,7 @@ TEST_F(OldFormat, TheGoldenFileImportedSavedAndReopenedKeepsEveryField)
     doc.OnFileSave();
     EXPECT_EQ(GoldenFile("exchange/truss.orreva.xml"), folder.Read("noname.orreva.xml"));
 
-    COrrevaData again;
+    COrrevaData again(nullptr, &DesignFiles());
     ASSERT_EQ(0, again.Load((folder / "noname.orreva.xml").c_str()));
     for (const RecordField& entry : RecordFields()) {
         if (const auto* text = std::get_if<TextField>(&entry.field)) {

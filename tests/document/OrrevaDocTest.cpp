@@ -1,7 +1,7 @@
 #include "document/OrrevaDoc.h"
 
-#include "lib/Language.h"
-#include "lib/Log.h"
+#include "lib/text/Language.h"
+#include "lib/text/LogSink.h"
 #include "support/RecordingHost.h"
 #include "support/TemporaryFolder.h"
 

@@ -2,7 +2,7 @@
 
 #include "document/Commands.h"
 #include "document/FileMasks.h"
-#include "lib/CodePage.h"
+#include "lib/text/CodePage.h"
 #include "support/GoldenFile.h"
 #include "support/RecordingHost.h"
 #include "support/TemporaryFolder.h"
@@ -20,6 +20,14 @@ const std::string kDialog =
 
 class OsloExportCommand : public testing::Test {
 protected:
+    /// What the command writes.
+    std::string Export()
+    {
+        host.paths = {folder / "export.len"};
+        doc.OnExportOslo();
+        return folder.Read("export.len");
+    }
+
     TemporaryFolder folder;
     RecordingHost host;
     COrrevaDoc doc{host};
@@ -99,7 +107,7 @@ TEST_F(OsloExportCommand, TheTitleStandsAsItIs)
 {
     kTestTelescopes[0].Make(doc);
     doc.main_record.SetTitle("Der \"Große\" 100%s"_cp1252);
-    const std::string text = OsloExport(doc);
+    const std::string text = Export();
     EXPECT_NE(std::string::npos, text.find("\r\nLEN NEW \"Der \"Gro\xdf"
                                            "e\" 100%s\" 1500.0 5\r\n"));
 }
@@ -107,7 +115,7 @@ TEST_F(OsloExportCommand, TheTitleStandsAsItIs)
 TEST_F(OsloExportCommand, NoUnsetFieldReachesTheFile)
 {
     doc.main_record.Reset();
-    const std::string text = OsloExport(doc);
+    const std::string text = Export();
     EXPECT_EQ(std::string::npos, text.find("inf"));
     EXPECT_EQ(std::string::npos, text.find("nan"));
     // The defaults are those of the quick telescope, but for the title.
@@ -122,7 +130,7 @@ TEST_F(OsloExportCommand, ExportsTheActiveRecord)
     doc.scratch_record.Reset();
     doc.scratch_record.SetTitle("Skizze");
     doc.active_record = &doc.scratch_record;
-    EXPECT_NE(std::string::npos, OsloExport(doc).find("\"Skizze\""));
+    EXPECT_NE(std::string::npos, Export().find("\"Skizze\""));
 }
 
 } // namespace

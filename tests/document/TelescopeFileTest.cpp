@@ -1,7 +1,7 @@
 #include "document/TelescopeFile.h"
 #include "document/XmlScanner.h"
-#include "lib/Assertion.h"
-#include "model/RecordFields.h"
+#include "lib/text/Assertion.h"
+#include "model/record/RecordFields.h"
 #include "support/RecordingHost.h"
 #include "support/TemporaryFolder.h"
 
@@ -239,7 +239,7 @@ TEST(TelescopeFile, AZeroByteEndsTheText)
 TEST(TelescopeFile, SaveWritesAndClearsModified)
 {
     const TemporaryFolder folder;
-    COrrevaData data;
+    COrrevaData data(nullptr, &DesignFiles());
     data.Reset();
     data.SetModified(1);
     EXPECT_EQ(0, data.Save());
@@ -251,7 +251,7 @@ TEST(TelescopeFile, SaveAsTakesPathAndTitle)
 {
     const TemporaryFolder folder;
     RecordingHost host;
-    COrrevaData data(&host);
+    COrrevaData data(&host, &DesignFiles());
     host.Take();
     EXPECT_EQ(0, data.SaveAs("mine.orreva.xml"));
     EXPECT_STREQ("mine.orreva.xml", data.file_path);
@@ -265,7 +265,7 @@ TEST(TelescopeFile, AFailedSaveIsSilentAndLeavesEverything)
     std::filesystem::create_directory("folder");
     folder.Write("kept", "old bytes");
     RecordingHost host;
-    COrrevaData data(&host);
+    COrrevaData data(&host, &DesignFiles());
     for (const char* path : {"folder", "missing/x.orreva.xml", "/dev/full"}) {
         data.file_path = path;
         data.SetModified(1);
@@ -294,7 +294,7 @@ TEST(TelescopeFile, SavingWithoutAPathFailsByAssertion)
 {
     Answer answer;
     AssertDesktop* const before = SetAssertDesktop(&answer);
-    COrrevaData data;
+    COrrevaData data(nullptr, &DesignFiles());
     EXPECT_EQ(1, data.Save());
     EXPECT_EQ(1, data.SaveAs(""));
     SetAssertDesktop(before);
@@ -307,7 +307,7 @@ TEST(TelescopeFile, LoadOfAMissingFileTellsTheRecordsOwnPathAndClears)
 {
     const TemporaryFolder folder;
     RecordingHost host;
-    COrrevaData data(&host);
+    COrrevaData data(&host, &DesignFiles());
     data.Reset();
     host.Take();
     EXPECT_EQ(1, data.Load("missing.orreva.xml"));
@@ -324,7 +324,7 @@ TEST(TelescopeFile, LoadTakesPathTitleAndValues)
     folder.Write("a.orreva.xml",
                  "<telescope><title>A</title><mirror><diameter>150</diameter></mirror></telescope>");
     RecordingHost host;
-    COrrevaData data(&host);
+    COrrevaData data(&host, &DesignFiles());
     data.SetModified(1);
     host.Take();
     EXPECT_EQ(0, data.Load("a.orreva.xml"));
@@ -340,7 +340,7 @@ TEST(TelescopeFile, LoadTakesTheRecordsOwnPath)
     const TemporaryFolder folder;
     folder.Write("a telescope whose name is longer than a short string.orreva.xml",
                  "<telescope><title>A</title><mirror><diameter>150</diameter></mirror></telescope>");
-    COrrevaData data;
+    COrrevaData data(nullptr, &DesignFiles());
     data.file_path = "a telescope whose name is longer than a short string.orreva.xml";
     EXPECT_EQ(0, data.Load(data.file_path));
     EXPECT_EQ(150, data.mirror_diameter);
@@ -351,7 +351,7 @@ TEST(TelescopeFile, WhatExistsButCannotBeReadGivesZerosAndSucceeds)
 {
     const TemporaryFolder folder;
     std::filesystem::create_directory("folder");
-    COrrevaData data;
+    COrrevaData data(nullptr, &DesignFiles());
     EXPECT_EQ(0, data.Load("folder"));
     EXPECT_EQ(0, data.mirror_diameter);
     EXPECT_EQ(0, data.tube_type);
@@ -372,7 +372,7 @@ TEST(TelescopeFile, SurvivesOddFiles)
                                  std::string("\x00\xFF\xFE<telescope", 14)};
     for (const std::string& bytes : files) {
         folder.Write("odd", bytes);
-        COrrevaData data;
+        COrrevaData data(nullptr, &DesignFiles());
         EXPECT_EQ(0, data.Load("odd"));
         EXPECT_EQ(0, data.mirror_diameter);
     }

@@ -1,6 +1,6 @@
 #include "document/WhatIfBar.h"
 
-#include "lib/Log.h"
+#include "lib/text/LogSink.h"
 #include "support/RecordingHost.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "document/XmlScanner.h"
 
-#include "model/RecordFields.h"
+#include "model/record/RecordFields.h"
 #include "support/DirectScanner.h"
 #include "support/TemporaryFolder.h"
 

@@ -2,8 +2,8 @@
 #include "drawing/PolygonPicture.h"
 #include "drawing/SectorPicture.h"
 
-#include "lib/CodePage.h"
-#include "lib/Language.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Language.h"
 #include "support/RecordingSurface.h"
 
 #include <gtest/gtest.h>

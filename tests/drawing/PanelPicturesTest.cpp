@@ -1,9 +1,9 @@
 #include "drawing/MirrorPanelPicture.h"
 #include "drawing/TubePanelPicture.h"
 
-#include "lib/CodePage.h"
-#include "lib/Language.h"
-#include "model/OrrevaData.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Language.h"
+#include "model/record/OrrevaData.h"
 #include "support/RecordingSurface.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "drawing/SectionPicture.h"
 
-#include "lib/Language.h"
+#include "lib/text/Language.h"
 #include "support/RecordingSurface.h"
 #include "support/SampleScopes.h"
 

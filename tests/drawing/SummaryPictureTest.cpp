@@ -1,7 +1,7 @@
 #include "drawing/SummaryPicture.h"
 
-#include "lib/Language.h"
-#include "model/Summary.h"
+#include "lib/text/Language.h"
+#include "model/analysis/Summary.h"
 #include "support/RecordingSurface.h"
 #include "support/SampleScopes.h"
 

@@ -1,7 +1,7 @@
 #include "raytrace/ParallelStatus.h"
 
-#include "lib/Language.h"
-#include "lib/Numbers.h"
+#include "lib/text/Language.h"
+#include "lib/text/Numbers.h"
 #include "support/SampleScopes.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "raytrace/TraceRay.h"
 
-#include "lib/Numbers.h"
+#include "lib/text/Numbers.h"
 #include "support/SampleScopes.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lib/Assertion.h"
-#include "lib/LibString.h"
+#include "lib/text/Assertion.h"
+#include "lib/text/LibString.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lib/CodePage.h"
-#include "model/ListRow.h"
+#include "lib/text/CodePage.h"
+#include "model/rows/ListRow.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lib/Log.h"
+#include "lib/text/LogSink.h"
 
 #include <string>
 #include <vector>

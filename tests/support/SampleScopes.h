@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/OrrevaData.h"
+#include "model/record/OrrevaData.h"
 
 /// A telescope of round numbers: 200 mm, f/5, a tube of 240 mm outside, the focal plane 80 mm above it and
 /// 200 mm off the axis, a secondary of 60 mm whose offset is 3 mm. Its frame, without the offset:

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "lib/Calendar.h"
+#include "lib/calendar/CalDate.h"
+#include "lib/calendar/Calendar.h"
 
 #include <cstdint>
 

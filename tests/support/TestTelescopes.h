@@ -1,8 +1,9 @@
 #pragma once
 
 #include "document/OldArchive.h"
+#include "document/OldFormat.h"
 #include "document/OrrevaDoc.h"
-#include "lib/CodePage.h"
+#include "lib/text/CodePage.h"
 #include "support/GoldenFile.h"
 
 /// The telescopes of the golden files of exports. Each is made anew in a document, unmodified.
@@ -32,7 +33,7 @@ inline void Truss(COrrevaDoc& document)
     document.main_record.SetModified(0);
     const std::string bytes = GoldenFile("exchange/truss.orreva");
     OldArchive archive(bytes);
-    EXPECT_TRUE(document.main_record.ImportOld(archive));
+    EXPECT_TRUE(ImportOld(archive, document.main_record, document.Host()));
 }
 
 } // namespace test_telescopes

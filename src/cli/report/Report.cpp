@@ -1,0 +1,44 @@
+#include "cli/report/Report.h"
+
+#include <algorithm>
+#include <iterator>
+
+const ReportPage* FindReportPage(std::string_view name)
+{
+    for (const ReportPage& page : ReportPages()) {
+        if (page.name == name) {
+            return &page;
+        }
+    }
+    return nullptr;
+}
+
+void WriteReport(std::span<const ReportPage* const> pages, const ReportContext& context,
+                 const ReportSink& sink)
+{
+    for (const ReportPage* page : pages) {
+        sink(std::string("# ") + page->name);
+        page->write(context, sink);
+    }
+}
+
+std::string ReportLine(const ListRow& cells)
+{
+    std::string line;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        line += i == 0 ? "" : "\t";
+        for (std::size_t k = 0; k < cells[i].size(); ++k) {
+            const char c = cells[i][k];
+            if (c == '\r' && cells[i][k + 1] == '\n') {
+                continue; // one line break, one blank
+            }
+            line += c == '\t' || c == '\n' || c == '\r' ? ' ' : c;
+        }
+    }
+    return line;
+}
+
+void AppendRows(ReportLines& lines, const ListRows& rows)
+{
+    std::transform(rows.rbegin(), rows.rend(), std::back_inserter(lines), ReportLine);
+}

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "lib/text/Language.h"
+#include "model/optics/FoucaultZones.h"
+#include "model/record/OrrevaData.h"
+#include "model/rows/ListRow.h"
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What is done on the freshly opened zone calculator; a field without a text stays as it opens.
+struct ZoneOptions {
+    std::optional<std::string> zones{};
+    std::optional<std::string> centre{};
+    std::optional<std::string> edge{};
+    ZoneView view{};
+};
+
+/// What a report page may ask for: the one telescope that all pages of a run share, and how to show it.
+struct ReportContext {
+    COrrevaData& record;
+    /// The document's figures after its last recalculation.
+    double field_angle_100 = 0;
+    double field_diameter_100 = 0;
+    double mirror_back_position = 0;
+    int language = kEnglish;
+    /// The check box Show Details.
+    bool details = false;
+    const char* eyepiece_path = "eyepiece.dat";
+    ZoneOptions zones{};
+};
+
+/// Lines without line ends, as bytes of code page 1252.
+using ReportLines = std::vector<std::string>;
+
+/// Takes the lines of a page one by one; false when it can take no more.
+using ReportSink = std::function<bool(const std::string& line)>;
+
+struct ReportPage {
+    const char* name;
+    void (*write)(const ReportContext& context, const ReportSink& sink);
+};
+
+/// All pages in the order in which a report without a choice prints them.
+std::span<const ReportPage> ReportPages();
+
+/// The page of a name, null if there is none.
+const ReportPage* FindReportPage(std::string_view name);
+
+/// The pages one after the other, each under the line "# NAME".
+void WriteReport(std::span<const ReportPage* const> pages, const ReportContext& context,
+                 const ReportSink& sink);
+
+// For the makers of pages -------------------------------------------------------------------------------
+
+/// One line of cells parted by TAB; a line break or TAB inside a cell becomes a blank.
+std::string ReportLine(const ListRow& cells);
+
+/// The rows as the user reads them: the last one made stands on top.
+void AppendRows(ReportLines& lines, const ListRows& rows);
+
+// The left pane -----------------------------------------------------------------------------------------
+
+/// The title and headings alone on their lines; a value in the warning colour has a third cell "!".
+ReportLines SummaryReport(const ReportContext& context);
+
+// The pages of the telescope sheet ----------------------------------------------------------------------
+
+ReportLines PrimaryReport(const ReportContext& context);
+ReportLines SecondaryReport(const ReportContext& context);
+ReportLines TubeReport(const ReportContext& context);
+ReportLines FocuserReport(const ReportContext& context);
+ReportLines CellReport(const ReportContext& context);
+ReportLines EyepiecesReport(const ReportContext& context);
+ReportLines BalanceReport(const ReportContext& context);
+
+// The optical tests and the simulated field ---------------------------------------------------------------
+
+/// The zone calculator. Its list may be longer than memory, so that no line is kept.
+void FoucaultReport(const ReportContext& context, const ReportSink& sink);
+ReportLines RonchiReport(const ReportContext& context);
+ReportLines StarReport(const ReportContext& context);
+ReportLines MarksReport(const ReportContext& context);
+ReportLines FieldReport(const ReportContext& context);

@@ -1,3 +1,0 @@
-#include "lib/Language.h"
-
-int g_nLanguage = kEnglish;

@@ -1,9 +1,0 @@
-#include "lib/LocalTime.h"
-
-std::tm LocalTime()
-{
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    return local;
-}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <compare>
+#include <cstdint>
+
+/// Day, month and year, on which the calendar functions (Calendar.h) work. Nothing is checked: an impossible
+/// date gives whatever the arithmetic makes of it. Order is by year, month, day.
+class CalDay {
+public:
+    constexpr CalDay(std::uint16_t nDay, std::uint16_t nMonth, std::int32_t nYear)
+        : m_nDay(nDay), m_nMonth(nMonth), m_nYear(nYear)
+    {}
+
+    constexpr std::uint16_t GetDay() const { return m_nDay; }
+    constexpr std::uint16_t GetMonth() const { return m_nMonth; }
+    constexpr std::int32_t GetYear() const { return m_nYear; }
+
+    constexpr bool operator==(const CalDay&) const = default;
+    constexpr std::strong_ordering operator<=>(const CalDay& other) const
+    {
+        if (m_nYear != other.m_nYear) {
+            return m_nYear <=> other.m_nYear;
+        }
+        return m_nMonth != other.m_nMonth ? m_nMonth <=> other.m_nMonth : m_nDay <=> other.m_nDay;
+    }
+
+private:
+    std::uint16_t m_nDay;
+    std::uint16_t m_nMonth;
+    std::int32_t m_nYear;
+};

@@ -1,0 +1,3 @@
+#include "lib/text/Language.h"
+
+int g_nLanguage = kEnglish;

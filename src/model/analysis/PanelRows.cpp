@@ -1,0 +1,70 @@
+#include "model/analysis/PanelRows.h"
+
+#include "lib/text/CodePage.h"
+#include "lib/text/FormatText.h"
+#include "lib/text/Language.h"
+#include "lib/text/Numbers.h"
+
+namespace {
+
+std::string Millimetres(double mm) { return FormatText("%0.1f mm", mm); }
+
+std::string MillimetresAndInches(double mm) { return FormatText("%0.1f mm (%0.2f\")", mm, mm / kInch); }
+
+double OuterDiameter(COrrevaData& record)
+{
+    const double inside = record.GetInsideDiameterHat();
+    return inside + 2 * record.GetThicknessHat();
+}
+
+struct TubePanelRow {
+    Bilingual label;
+    double (*value)(COrrevaData& record);
+    std::string (*text)(double mm);
+};
+
+template <double (COrrevaData::*get)()>
+double Get(COrrevaData& record)
+{
+    return (record.*get)();
+}
+
+// Every row but the first has a line on top.
+constexpr TubePanelRow kTubeRows[] = {
+    {{"Lenght:", "Länge:"_cp1252}, Get<&COrrevaData::GetTubeLength>, MillimetresAndInches},
+    {{"Inner Diameter:", "Innendurchmesser:"}, Get<&COrrevaData::GetInsideDiameterHat>, MillimetresAndInches},
+    {{"Outer Diameter:", "Aussendurchmesser:"}, OuterDiameter, MillimetresAndInches},
+    {{"Tube Thickness:", "Wanddicke:"}, Get<&COrrevaData::GetThicknessHat>, Millimetres},
+    {{"Distance Tube Rear End to Primary Surface:",
+      "Abstand hinteres Tubusende - Oberfläche des Hauptspiegels:"_cp1252},
+     Get<&COrrevaData::GetDistanceBack>,
+     Millimetres},
+    {{"Distance Tube Front End to Focuser:", "Abstand vorderes Tubusende - Focuser:"},
+     Get<&COrrevaData::GetDistanceFront>,
+     Millimetres},
+    {{"Distance Focal Plane to Tube:", "Brennebene über Tubus:"_cp1252},
+     Get<&COrrevaData::GetFocuserTotalHeight>,
+     Millimetres},
+    {{"Distance Focal optical Axis:", "Brennebene über optischer Achse:"_cp1252},
+     Get<&COrrevaData::GetFocalPlaneHeight>,
+     Millimetres},
+};
+
+} // namespace
+
+std::vector<PanelRow> TubePanelRows(COrrevaData& record, int language)
+{
+    std::vector<PanelRow> rows;
+    for (const TubePanelRow& row : kTubeRows) {
+        rows.push_back({row.label.In(language), row.text(row.value(record)), !rows.empty()});
+    }
+    return rows;
+}
+
+std::vector<PanelRow> MirrorPanelRows(COrrevaData& record)
+{
+    std::vector<PanelRow> rows;
+    rows.push_back({"Spiegeldurchmesser:", MillimetresAndInches(record.GetMirrorDiameter()), false});
+    rows.push_back({"Brennweite:", MillimetresAndInches(record.GetFocalLength()), false});
+    return rows;
+}

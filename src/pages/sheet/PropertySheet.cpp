@@ -1,0 +1,314 @@
+#include "pages/sheet/PropertySheet.h"
+
+#include "pages/sheet/Controls.h"
+#include "pages/sheet/Help.h"
+#include "views/HandCursorStatic.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kPanelWidth = 285;
+constexpr int kUsualDpi = 96;
+
+bool TakesTab(const QWidget* widget) { return (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus; }
+
+/// Not the pictures for help at a page's edge, and of radio buttons the one that is chosen.
+bool IsField(const QWidget* widget)
+{
+    const auto* const radio = qobject_cast<const QRadioButton*>(widget);
+    return widget->isEnabled() && TakesTab(widget) &&
+           qobject_cast<const CHandCursorStatic*>(widget) == nullptr &&
+           (radio == nullptr || radio->isChecked());
+}
+
+/// Where the keyboard begins on a page, null if it has no field.
+QWidget* FirstField(QWidget* page)
+{
+    for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+        if (page->isAncestorOf(next) && IsField(next)) {
+            return next;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+CPropertySheet::CPropertySheet(const QString& caption, QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(caption);
+    tabs = new QTabWidget(this);
+    heading = new QLabel(this);
+    heading->setObjectName("heading");
+    heading->setStyleSheet("font-weight: bold");
+    heading->hide();
+    body = new QHBoxLayout;
+    body->addWidget(tabs, 1);
+
+    buttonRow = new QHBoxLayout;
+    buttonRow->addStretch();
+    back = AddButton(tr("< &Back"), "back", &CPropertySheet::OnBack);
+    next = AddButton(tr("&Next >"), "next", &CPropertySheet::OnNext);
+    finish = AddButton(tr("Finish"), "finish", &CPropertySheet::OnFinish);
+    ok = AddButton(tr("OK"), "ok", &CPropertySheet::accept);
+    cancel = AddButton(tr("Cancel"), "cancel", &CPropertySheet::reject);
+    apply = AddButton(tr("&Apply"), "apply", &CPropertySheet::Apply);
+    apply->setEnabled(false);
+    for (QPushButton* const button : {back, next, finish}) {
+        button->hide();
+    }
+    ok->setDefault(true);
+
+    auto* const column = new QVBoxLayout(this);
+    column->addWidget(heading);
+    column->addLayout(body, 1);
+    column->addLayout(buttonRow);
+    connect(tabs, &QTabWidget::currentChanged, this, [this](int index) {
+        const QSize before = size();
+        Activate(index);
+        if (size() != before) {
+            StayOnScreen();
+        }
+    });
+    BindPageKeys();
+}
+
+/// The keys that change tabs, in place of the tabs' own, which know of no wizard: a page of that is left by
+/// its buttons, which store it.
+void CPropertySheet::BindPageKeys()
+{
+    const auto bind = [this](QKeyCombination keys, int step) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, step] {
+            if (!wizard) {
+                SetActivePage((ActiveIndex() + step + PageCount()) % PageCount());
+            }
+        });
+    };
+    bind(Qt::CTRL | Qt::Key_Tab, 1);
+    bind(Qt::CTRL | Qt::Key_PageDown, 1);
+    bind(Qt::CTRL | Qt::Key_Backtab, -1);
+    bind(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, -1);
+    bind(Qt::CTRL | Qt::Key_PageUp, -1);
+}
+
+QPushButton* CPropertySheet::AddButton(const QString& text, const char* name,
+                                       void (CPropertySheet::*pressed)())
+{
+    auto* const button = new QPushButton(text, this);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, pressed);
+    buttonRow->addWidget(button);
+    return button;
+}
+
+void CPropertySheet::AddPage(const QString& title, MakePage make)
+{
+    entries.push_back({std::move(make), nullptr});
+    auto* const place = new QWidget(tabs);
+    auto* const fill = new QVBoxLayout(place);
+    fill->setContentsMargins(0, 0, 0, 0);
+    const QSignalBlocker quiet(tabs); // the first page, too, waits until the sheet is shown
+    tabs->addTab(place, title);
+}
+
+void CPropertySheet::RemovePage(int index)
+{
+    QWidget* const place = tabs->widget(index);
+    entries.erase(entries.begin() + index);
+    tabs->removeTab(index);
+    place->deleteLater();
+}
+
+void CPropertySheet::SetWizardMode()
+{
+    wizard = true;
+    tabs->tabBar()->hide();
+    heading->show();
+    for (QPushButton* const button : {ok, apply}) {
+        button->hide();
+    }
+    ShowWizardButtons(kWizardNext);
+}
+
+int CPropertySheet::ActiveIndex() const { return tabs->currentIndex(); }
+
+void CPropertySheet::SetActivePage(int index)
+{
+    if (index >= 0 && index < PageCount()) {
+        tabs->setCurrentIndex(index);
+    }
+}
+
+void CPropertySheet::AddPanel(QWidget* panel)
+{
+    panel->setParent(this);
+    panel->setFixedWidth(kPanelWidth);
+    body->addWidget(panel);
+}
+
+void CPropertySheet::showEvent(QShowEvent* event)
+{
+    if (!event->spontaneous()) { // a window that comes back from its icon is no new visit
+        Activate(tabs->currentIndex());
+    }
+    QDialog::showEvent(event);
+}
+
+/// Builds the page at its first visit, and tells it that it came to the front.
+void CPropertySheet::Activate(int index)
+{
+    if (index < 0 || index >= PageCount()) {
+        return;
+    }
+    Entry& entry = entries[static_cast<std::size_t>(index)];
+    if (entry.page == nullptr) {
+        Build(entry, *tabs->widget(index));
+    }
+    heading->setText(tabs->tabText(index));
+    entry.page->OnSetActive();
+    // The keyboard was on a page that went to the back, or nowhere yet.
+    if (focusWidget() == nullptr || focusWidget() == tabs->widget(index)) {
+        if (QWidget* const field = FirstField(entry.page)) {
+            field->setFocus(Qt::TabFocusReason); // which selects what stands there, to type over it
+        }
+    }
+}
+
+void CPropertySheet::Build(Entry& entry, QWidget& place)
+{
+    entry.page = entry.make(&place);
+    place.layout()->addWidget(entry.page);
+    connect(entry.page, &CPropertyPage::Modified, this, [this] { apply->setEnabled(true); });
+    connect(entry.page, &CPropertyPage::WizardButtons, this, &CPropertySheet::ShowWizardButtons);
+    entry.page->show();
+    GrowFor(entry.page);
+    PutButtonsLast();
+}
+
+void CPropertySheet::OpenWithRoom(QSize room)
+{
+    resize((room * logicalDpiY() / kUsualDpi).boundedTo(LargestSize()));
+}
+
+QSize CPropertySheet::LargestSize() const
+{
+    constexpr QSize kUsualFrame(10, 40);
+    const QSize frame = frameGeometry().size() - size();
+    return screen()->availableSize() - (frame.isNull() ? kUsualFrame : frame);
+}
+
+/// Moves a sheet that has grown past an edge of the screen back, so that its buttons can be reached.
+void CPropertySheet::StayOnScreen()
+{
+    const QRect room = screen()->availableGeometry();
+    const QRect frame = frameGeometry();
+    if (isVisible() && !room.contains(frame)) { // before it is shown it has no place yet
+        move(std::max(room.left(), std::min(frame.left(), room.right() + 1 - frame.width())),
+             std::max(room.top(), std::min(frame.top(), room.bottom() + 1 - frame.height())));
+    }
+}
+
+/// The sheet becomes as large as its largest page asks for, as far as the screen allows.
+void CPropertySheet::GrowFor(QWidget* page)
+{
+    // What the page asks for goes up from parent to parent by events; it is wanted now.
+    for (QWidget* widget = page; widget != nullptr && widget != parentWidget();
+         widget = widget->parentWidget()) {
+        QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
+    }
+    resize(size().expandedTo(sizeHint().boundedTo(LargestSize())));
+}
+
+/// TAB meets a page before the buttons below it, though the page was built after them.
+void CPropertySheet::PutButtonsLast()
+{
+    QWidget* last = previousInFocusChain();
+    while (last != this && !TakesTab(last)) {
+        last = last->previousInFocusChain();
+    }
+    for (QPushButton* const button : {back, next, finish, ok, cancel, apply}) {
+        setTabOrder(last, button);
+        last = button;
+    }
+}
+
+void CPropertySheet::Apply()
+{
+    for (const Entry& entry : entries) {
+        if (entry.page != nullptr) {
+            entry.page->OnApply();
+        }
+    }
+    apply->setEnabled(false);
+}
+
+void CPropertySheet::accept()
+{
+    if (!wizard) {
+        Apply();
+    }
+    QDialog::accept();
+}
+
+void CPropertySheet::OnBack()
+{
+    entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardBack();
+    SetActivePage(ActiveIndex() - 1);
+}
+
+void CPropertySheet::OnNext()
+{
+    entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardNext();
+    SetActivePage(ActiveIndex() + 1);
+}
+
+void CPropertySheet::OnFinish()
+{
+    entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardFinish();
+    accept();
+}
+
+void CPropertySheet::ShowWizardButtons(unsigned buttons)
+{
+    if (!wizard) {
+        return;
+    }
+    const bool finishes = (buttons & kWizardFinish) != 0;
+    QPushButton* const forward = finishes ? finish : next;
+    QPushButton* const other = finishes ? next : finish;
+    back->show();
+    back->setEnabled((buttons & kWizardBack) != 0);
+    if (!finishes) {
+        next->setEnabled((buttons & kWizardNext) != 0);
+    }
+    forward->show();
+    forward->setDefault(true);
+    if (other->hasFocus()) { // else the focus would go on to Cancel
+        forward->setFocus();
+    }
+    other->hide();
+}
+
+void CPropertySheet::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F1 && ActiveIndex() >= 0) {
+        const CPropertyPage* const page = Page(ActiveIndex());
+        WinHelp(page != nullptr ? page->property(kDialogId).toInt() : 0, kHelpContext);
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "model/analysis/Eyepieces.h"
+#include "pages/sheet/TelescopePage.h"
+
+#include <memory>
+#include <vector>
+
+namespace Ui {
+class MyPropertyPage07;
+}
+
+/// The page Eyepieces: what an eyepiece of the user's list gives in this telescope. The list is read from
+/// eyepiece.dat in the current folder whenever the page is built. It stores nothing.
+class CMyPropertyPage07 : public CTelescopePage {
+    Q_OBJECT
+
+public:
+    CMyPropertyPage07(COrrevaDoc& document, QWidget* parent);
+    ~CMyPropertyPage07() override;
+
+private:
+    /// `index` counts the rows of the drop-down.
+    void ShowEyepiece(int index);
+
+    const std::vector<Eyepiece> eyepieces; ///< in the order of the file
+    const std::vector<std::size_t> order;  ///< the row of the drop-down -> the eyepiece
+    std::unique_ptr<Ui::MyPropertyPage07> ui;
+};

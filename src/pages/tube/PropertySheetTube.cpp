@@ -1,0 +1,45 @@
+#include "pages/tube/PropertySheetTube.h"
+
+#include "document/OrrevaDoc.h"
+#include "pages/tube/PropertyPageTube1.h"
+#include "pages/tube/PropertyPageTube2.h"
+#include "pages/tube/PropertyPageTube3.h"
+#include "views/TubePanel.h"
+
+CPropertySheetTube::CPropertySheetTube(COrrevaDoc& doc, QWidget* parent)
+    : CPropertySheet(tr("Tube Properties"), parent), document(doc), panel(new CTubePanel(doc, this))
+{
+    AddPage(tr("General"), [this](QWidget* place) {
+        auto* const page = NewPage<CPropertyPageTube1>(place);
+        connect(page, &CPropertyPageTube1::DesignClicked, this, &CPropertySheetTube::ExchangeDesignPage);
+        return page;
+    });
+    AddDesignPage();
+    AddPanel(panel);
+    OpenWithRoom({840, 400});
+}
+
+template <class Page>
+Page* CPropertySheetTube::NewPage(QWidget* place)
+{
+    auto* const page = new Page(document, place);
+    connect(page, &CPropertyPageTube::RecordChanged, panel, qOverload<>(&QWidget::update));
+    return page;
+}
+
+void CPropertySheetTube::AddDesignPage()
+{
+    solid = DesignOf(document.active_record->GetTubeType()) == kSolidTube ? 1 : 0;
+    if (solid != 0) {
+        AddPage(tr("Tube"), [this](QWidget* place) { return NewPage<CPropertyPageTube2>(place); });
+    } else {
+        AddPage(tr("Truss Tube"), [this](QWidget* place) { return NewPage<CPropertyPageTube3>(place); });
+    }
+}
+
+void CPropertySheetTube::ExchangeDesignPage()
+{
+    constexpr int kDesignPage = 1;
+    RemovePage(kDesignPage);
+    AddDesignPage();
+}

@@ -1,0 +1,260 @@
+#include "painting/PainterSurface.h"
+
+#include "drawing/PixelRuns.h"
+#include "drawing/WordWrap.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/Numbers.h"
+
+#include <QFontMetricsF>
+#include <QImage>
+#include <QLineF>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPolygonF>
+#include <QRectF>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Arial's own measures: a line is an ascent and a descent high.
+constexpr double kAscent = 1854.0;
+constexpr double kLine = 1854.0 + 434.0;
+constexpr double kEm = 2048.0;
+
+constexpr double kFullTurn = 360.0 * 16; // the toolkit counts sixteenths of a degree
+
+// A text that is longer than any page is wide is cut.
+constexpr std::size_t kLongestText = 10000;
+
+// Curves beyond this are no pictures any more; the toolkit is spared them.
+constexpr double kFarthest = 32000.0;
+
+QColor ToColor(Colour colour) { return QColor(colour.red, colour.green, colour.blue); }
+
+QString ToString(std::string_view text)
+{
+    return QString::fromStdString(Utf8FromCp1252(text.substr(0, kLongestText)));
+}
+
+double Tamed(double place) { return std::clamp(place, -kFarthest, kFarthest); }
+
+/// The outline runs through the middles of the box's outer pixels.
+QRectF OutlineBox(const PixelRect& box)
+{
+    return QRectF(QPointF(Tamed(box.left), Tamed(box.top)),
+                  QPointF(Tamed(box.right - 1.0), Tamed(box.bottom - 1.0)));
+}
+
+/// The toolkit's angle of the direction from the box's centre to `to`.
+double AngleOf(const QRectF& box, Pixel to)
+{
+    const QPointF centre = box.center();
+    const double right = (to.x - centre.x()) * box.height();
+    const double up = (centre.y() - to.y) * box.width();
+    const double turn = std::atan2(up, right) / (2 * std::acos(-1.0));
+    return (turn < 0 ? turn + 1 : turn) * kFullTurn;
+}
+
+/// A stretch of an outline in the toolkit's angles.
+struct Stretch {
+    int start;
+    int length;
+};
+
+Stretch StretchOf(const QRectF& box, Pixel from, Pixel to)
+{
+    const double start = AngleOf(box, from);
+    double length = AngleOf(box, to) - start;
+    if (length <= 0) {
+        length += kFullTurn;
+    }
+    return {TruncToInt32(std::round(start)), TruncToInt32(std::round(length))};
+}
+
+std::int32_t PixelSize(std::int32_t lineHeight)
+{
+    return std::max(TruncToInt32(std::round(std::min(lineHeight, 1000) * kEm / kLine)), 1);
+}
+
+} // namespace
+
+PainterSurface::PainterSurface(QPainter& device, std::int32_t surfaceWidth, std::int32_t surfaceHeight)
+    : painter(device), width(surfaceWidth), height(surfaceHeight),
+      isRaster(device.paintEngine() != nullptr && device.paintEngine()->type() == QPaintEngine::Raster)
+{
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void PainterSurface::FillRect(const PixelRect& rect, Colour colour)
+{
+    const std::int32_t left = std::max(rect.left, 0);
+    const std::int32_t top = std::max(rect.top, 0);
+    const std::int32_t right = std::min(rect.right, width);
+    const std::int32_t bottom = std::min(rect.bottom, height);
+    if (left < right && top < bottom) {
+        painter.fillRect(QRect(left, top, right - left, bottom - top), ToColor(colour));
+    }
+}
+
+void PainterSurface::PaintRuns(Colour colour)
+{
+    std::vector<QRect> rects;
+    rects.reserve(runs.size());
+    for (const PixelRect& run : runs) {
+        rects.emplace_back(run.left, run.top, run.right - run.left, run.bottom - run.top);
+    }
+    runs.clear();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ToColor(colour));
+    painter.drawRects(rects.data(), static_cast<int>(rects.size()));
+}
+
+void PainterSurface::Line(Pixel from, Pixel to, Colour colour)
+{
+    if (isRaster) {
+        AppendLine(from, to, Clip(), runs);
+        PaintRuns(colour);
+    } else {
+        VectorLine(from, to, colour);
+    }
+}
+
+/// The part of the line on the surface, cut by one side after the other (by Liang and Barsky).
+void PainterSurface::VectorLine(Pixel from, Pixel to, Colour colour)
+{
+    const QPointF start(from.x + 0.5, from.y + 0.5);
+    const QPointF way(static_cast<double>(to.x) - from.x, static_cast<double>(to.y) - from.y);
+    const double steps[] = {-way.x(), way.x(), -way.y(), way.y()};
+    const double rooms[] = {start.x(), width - start.x(), start.y(), height - start.y()};
+    double enter = 0.0;
+    double leave = 1.0;
+    for (int side = 0; side < 4; ++side) {
+        if (steps[side] < 0) {
+            enter = std::max(enter, rooms[side] / steps[side]);
+        } else if (steps[side] > 0) {
+            leave = std::min(leave, rooms[side] / steps[side]);
+        } else if (rooms[side] < 0) {
+            return;
+        }
+    }
+    if (enter <= leave) {
+        painter.setPen(QPen(ToColor(colour), 1));
+        painter.drawLine(QLineF(start + way * enter, start + way * leave));
+    }
+}
+
+void PainterSurface::Polygon(std::span<const Pixel> points, Colour pen, Colour brush)
+{
+    if (!isRaster) {
+        VectorPolygon(points, pen, brush);
+        return;
+    }
+    AppendPolygon(points, Clip(), runs);
+    PaintRuns(brush);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        AppendLine(points[i], points[(i + 1) % points.size()], Clip(), runs);
+    }
+    PaintRuns(pen);
+}
+
+void PainterSurface::VectorPolygon(std::span<const Pixel> points, Colour pen, Colour brush)
+{
+    QPolygonF polygon;
+    for (const Pixel point : points) {
+        polygon << QPointF(Tamed(point.x) + 0.5, Tamed(point.y) + 0.5);
+    }
+    painter.setPen(QPen(ToColor(pen), 1));
+    painter.setBrush(ToColor(brush));
+    painter.drawPolygon(polygon);
+}
+
+void PainterSurface::Ellipse(const PixelRect& box, Colour pen, std::int32_t penWidth)
+{
+    painter.setPen(QPen(ToColor(pen), penWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(OutlineBox(box));
+}
+
+void PainterSurface::Arc(const PixelRect& box, Pixel from, Pixel to, Colour pen)
+{
+    const QRectF outline = OutlineBox(box);
+    const Stretch stretch = StretchOf(outline, from, to);
+    painter.setPen(QPen(ToColor(pen), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawArc(outline, stretch.start, stretch.length);
+}
+
+void PainterSurface::Chord(const PixelRect& box, Pixel from, Pixel to, Colour pen, Colour brush)
+{
+    const QRectF outline = OutlineBox(box);
+    const Stretch stretch = StretchOf(outline, from, to);
+    painter.setPen(QPen(ToColor(pen), 1));
+    painter.setBrush(ToColor(brush));
+    painter.drawChord(outline, stretch.start, stretch.length);
+}
+
+void PainterSurface::Image(Pixel at, std::int32_t imageWidth, std::span<const Colour> pixels)
+{
+    static_assert(sizeof(Colour) == 3);
+    if (imageWidth <= 0) {
+        return;
+    }
+    const auto rows = static_cast<std::int32_t>(pixels.size() / static_cast<std::size_t>(imageWidth));
+    const bool isSeen =
+        at.x < width && at.y < height && std::int64_t{at.x} + imageWidth > 0 && std::int64_t{at.y} + rows > 0;
+    if (isSeen) {
+        const QImage image(reinterpret_cast<const uchar*>(pixels.data()), imageWidth, rows,
+                           qsizetype{imageWidth} * 3, QImage::Format_RGB888);
+        painter.drawImage(at.x, at.y, image);
+    }
+}
+
+const QFont& PainterSurface::DeviceFont(const Font& font)
+{
+    if (font != lastFont) {
+        lastFont = font;
+        deviceFont = QFont(QStringList{"Arial", "Liberation Sans"});
+        deviceFont.setPixelSize(PixelSize(font.height));
+        // The code page needs no glyph of another font, and looking for one costs a good part of the start.
+        deviceFont.setStyleStrategy(QFont::NoFontMerging);
+        deviceFont.setWeight(font.weight >= Font::kBold ? QFont::Bold : QFont::Normal);
+    }
+    return deviceFont;
+}
+
+void PainterSurface::Text(Pixel at, std::string_view text, const Font& font, Colour colour)
+{
+    // No character is wider than two lines are high, so a text that cannot be seen is not shaped.
+    const std::int64_t line = font.height;
+    const std::int64_t length = 2 * line * static_cast<std::int64_t>(std::min(text.size(), kLongestText));
+    const std::int64_t toRight = font.upright ? 2 * line : length;
+    const std::int64_t up = font.upright ? length : line;
+    if (at.x - line > width || at.x + toRight < 0 || at.y - up > height || at.y + 2 * line < 0) {
+        return;
+    }
+    painter.save();
+    painter.setFont(DeviceFont(font));
+    painter.setPen(ToColor(colour));
+    painter.translate(at.x, at.y);
+    if (font.upright) {
+        painter.rotate(-90);
+    }
+    painter.drawText(QPointF(0, std::round(font.height * kAscent / kLine)), ToString(text));
+    painter.restore();
+}
+
+std::int32_t PainterSurface::WrappedText(const PixelRect& box, std::string_view text, const Font& font,
+                                         Colour colour)
+{
+    const QFontMetricsF metrics(DeviceFont(font), painter.device());
+    const auto measure = [&](std::string_view piece) { return metrics.horizontalAdvance(ToString(piece)); };
+    std::int32_t used = 0;
+    for (const std::string_view line :
+         WrapWords(text.substr(0, kLongestText), static_cast<double>(box.right) - box.left, measure)) {
+        Text({box.left, TruncToInt32(static_cast<double>(box.top) + used)}, line, font, colour);
+        used += font.height;
+    }
+    return used;
+}

@@ -1,0 +1,130 @@
+#include "pages/sheet/SheetFixture.h"
+
+namespace {
+
+class EyepiecesPage : public SheetFixture {};
+class EyepiecesPageGerman : public GermanSheetFixture {};
+
+using Lines = std::vector<std::string>;
+
+QComboBox& Names(const QWidget& page) { return *FindControl<QComboBox>(&page, 1011); }
+
+Lines Entries(const QWidget& page)
+{
+    Lines names;
+    for (int i = 0; i < Names(page).count(); ++i) {
+        names.push_back(Names(page).itemText(i).toStdString());
+    }
+    return names;
+}
+
+TEST_F(EyepiecesPage, ShowsWhatTheChosenEyepieceGives)
+{
+    folder.Write("eyepiece.dat", "# name, mm, degrees\r\n\r\nWide 20,20,65\r\nOrtho 12,12,45\r\n");
+    MakeMeasuredTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        CPropertyPage& page = Visit(sheet, kEyepieces);
+        EXPECT_EQ((Lines{"Ortho 12", "Wide 20"}), Entries(page)) << "sorted";
+        EXPECT_EQ(-1, Names(page).currentIndex());
+        EXPECT_EQ(Lines{}, Rows(page));
+        ChooseEntry(page, 1011, 0);
+        const Lines expected{"Focal Length | 12.00°", "Apparent Filed of View | 45.00°",
+                             "Magnification | 100.00", "Exit Pupil | 2.00", "Actual Field of View | 0.45°"};
+        EXPECT_EQ(expected, Rows(page));
+        ChooseEntry(page, 1011, 1);
+        EXPECT_EQ("60.00", Value(page, "Magnification"));
+        EXPECT_EQ(5u, Rows(page).size());
+        EXPECT_FALSE(Button(sheet, "apply").isEnabled()) << "nothing is stored";
+    });
+}
+
+TEST_F(EyepiecesPageGerman, ShowsGermanRowsAndNamesOfTheCodePage)
+{
+    folder.Write("eyepiece.dat", "zoom,8,60\nPl\xF6ssl 40,40,43\nAPO,10,70\nPLOssl,9,50\n");
+    MakeMeasuredTelescope();
+    OnPage(kEyepieces, "cancel", [](CPropertyPage& page) {
+        EXPECT_EQ((Lines{"APO", "PLOssl", "Plössl 40", "zoom"}), Entries(page)) << "capitals are folded";
+        ChooseEntry(page, 1011, 2);
+        const Lines expected{"Brennweite | 40.00°", "Scheinbares Gesichtsfeld | 43.00°",
+                             "Vergrösserung | 30.00", "Austrittspupille | 6.67",
+                             "Tatsächliches Gesichtsfeld | 1.43°"};
+        EXPECT_EQ(expected, Rows(page));
+    });
+}
+
+TEST_F(EyepiecesPage, AMissingFileIsAnEmptyList)
+{
+    MakeMeasuredTelescope();
+    OnPage(kEyepieces, "ok", [](CPropertyPage& page) {
+        EXPECT_EQ(0, Names(page).count());
+        QTest::keyClick(&Names(page), Qt::Key_Down);
+        EXPECT_EQ(Lines{}, Rows(page));
+    });
+}
+
+TEST_F(EyepiecesPage, EachOpeningOfTheSheetReadsTheFileAgain)
+{
+    MakeMeasuredTelescope();
+    for (const char* const name : {"First", "Second"}) {
+        folder.Write("eyepiece.dat", std::string(name) + ",10,50\n");
+        OnPage(kEyepieces, "cancel", [name](CPropertyPage& page) { EXPECT_EQ(Lines{name}, Entries(page)); });
+    }
+}
+
+TEST_F(EyepiecesPage, MissingFieldsCountAsNoughtAndDivideAsTheyMay)
+{
+    folder.Write("eyepiece.dat", "Name alone\n,,\n   # not one\n\t\nminus,-10,50\n");
+    MakeMeasuredTelescope();
+    OnPage(kEyepieces, "cancel", [](CPropertyPage& page) {
+        EXPECT_EQ((Lines{"", "minus", "Name alone"}), Entries(page));
+        ChooseEntry(page, 1011, 2);
+        const Lines expected{"Focal Length | 0.00°", "Apparent Filed of View | 0.00°", "Magnification | inf",
+                             "Exit Pupil | 0.00", "Actual Field of View | 0.00°"};
+        EXPECT_EQ(expected, Rows(page));
+        ChooseEntry(page, 1011, 1);
+        EXPECT_EQ("-120.00", Value(page, "Magnification"));
+    });
+}
+
+TEST_F(EyepiecesPage, AMillionLinesOpen)
+{
+    std::string text;
+    for (long i = 0; i < 1000000; ++i) {
+        text += "Eyepiece " + std::to_string(i * 7919 % 1000000) + "," + std::to_string(i % 50 + 1) + ",50\n";
+    }
+    folder.Write("eyepiece.dat", text);
+    MakeMeasuredTelescope();
+    InSheet([this](CMyPropertySheet0& sheet) {
+        CPropertyPage& page = Visit(sheet, kEyepieces);
+        QCoreApplication::processEvents();
+        ASSERT_EQ(1000000, Names(page).count());
+        QTest::keyClick(&Names(page), Qt::Key_End);
+        EXPECT_EQ("Eyepiece 999999", Names(page).currentText());
+        EXPECT_EQ(5u, Rows(page).size());
+        Names(page).showPopup();
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(Names(page).view()->isVisible());
+        Names(page).hidePopup();
+    });
+}
+
+TEST_F(EyepiecesPage, ALineOfAMegabyteAndBytesOfAnyKindAreSurvived)
+{
+    std::string text = std::string(1 << 20, 'x') + ",10,50\n";
+    for (int i = 0; i < 256; ++i) {
+        text += static_cast<char>(i);
+    }
+    folder.Write("eyepiece.dat", text + "\nLast,10,50");
+    MakeMeasuredTelescope();
+    OnPage(kEyepieces, "cancel", [](CPropertyPage& page) {
+        const Lines names = Entries(page);
+        EXPECT_EQ(1, std::ranges::count(names, "Last"));
+        EXPECT_EQ(1, std::ranges::count(names, std::string(1000, 'x'))) << "the first 1000 characters count";
+        for (int i = 0; i < Names(page).count(); ++i) {
+            ChooseEntry(page, 1011, i);
+            EXPECT_EQ(5u, Rows(page).size());
+        }
+    });
+}
+
+} // namespace
