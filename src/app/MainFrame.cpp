@@ -2,8 +2,8 @@
 
 #include "app/KeyIndicators.h"
 #include "app/MyDialogBar.h"
-#include "app/OrrevaApp.h"
 #include "app/Printing.h"
+#include "app/ThreadLocale.h"
 #include "document/Commands.h"
 #include "lib/text/Language.h"
 #include "pages/dialogs/AboutBox.h"
@@ -30,7 +30,8 @@ bool IsViewStyle(int id) { return id >= kFirstViewStyle && id <= kLastViewStyle;
 
 } // namespace
 
-CMainFrame::CMainFrame(COrrevaDoc& doc) : document(doc), ui(std::make_unique<Ui::MainFrame>())
+CMainFrame::CMainFrame(COrrevaDoc& doc, const CThreadLocale& locale)
+    : document(doc), threadLocale(locale), ui(std::make_unique<Ui::MainFrame>())
 {
     ui->setupUi(this);
     setWindowIcon(QIcon(":/icons/orreva.svg"));
@@ -161,10 +162,10 @@ void CMainFrame::RunDesktopCommand(int id)
         close();
         break;
     case command_id::kGerman:
-        COrrevaApp::Instance().OnLanguage(kGerman);
+        emit LanguageChosen(kGerman);
         break;
     case command_id::kEnglish:
-        COrrevaApp::Instance().OnLanguage(kEnglish);
+        emit LanguageChosen(kEnglish);
         break;
     case command_id::kForum:
         WinHelp(1, kHelpContext);
@@ -178,7 +179,7 @@ void CMainFrame::RunDesktopCommand(int id)
         WinHelp(0, kHelpThemesCommand);
         break;
     case command_id::kAbout:
-        CAboutBox(COrrevaApp::Instance().IsThreadGerman(), this).exec();
+        CAboutBox(threadLocale.IsGerman(), this).exec();
         break;
     default:
         break; // the toolkit's save and the view styles: nothing

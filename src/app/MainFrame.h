@@ -8,6 +8,7 @@
 
 class CLeftView;
 class CMyDialogBar;
+class CThreadLocale;
 class COrrevaDoc;
 class COrrevaView;
 class KeyIndicators;
@@ -25,7 +26,7 @@ class CMainFrame : public QMainWindow {
     Q_OBJECT
 
 public:
-    explicit CMainFrame(COrrevaDoc& document);
+    CMainFrame(COrrevaDoc& document, const CThreadLocale& threadLocale);
     ~CMainFrame() override;
 
     /// The caption is the document's title with " - Orreva" behind it; "Orreva" for an empty title.
@@ -42,6 +43,9 @@ public:
     CLeftView& LeftView() const { return *left; }
     COrrevaView& RightView() const { return *right; }
 
+signals:
+    void LanguageChosen(int language);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -55,6 +59,7 @@ private:
     void RunDesktopCommand(int id);
 
     COrrevaDoc& document;
+    const CThreadLocale& threadLocale;
     std::unique_ptr<Ui::MainFrame> ui;
     CLeftView* left = nullptr;
     COrrevaView* right = nullptr;

@@ -10,15 +10,12 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
-#include <QLibraryInfo>
 #include <QLocale>
 
 namespace {
 
 constexpr const char* kLanguageEntry = "Settings/Language";
 constexpr int kNoLanguage = 99;
-
-COrrevaApp* g_app = nullptr;
 
 /// Every help request of the program, the toolkit's own commands too.
 void OpenHelp(long data, unsigned command)
@@ -33,7 +30,6 @@ void OpenHelp(long data, unsigned command)
 
 COrrevaApp::COrrevaApp()
 {
-    g_app = this;
     SetAssertDesktop(&host);
     SetHelpHandler(OpenHelp);
 }
@@ -43,13 +39,10 @@ COrrevaApp::~COrrevaApp()
     host.Attach(nullptr, nullptr);
     frame.reset();
     document.reset();
-    SetThreadLocale(kEnglish);
+    threadLocale.Set(kEnglish);
     SetHelpHandler(nullptr);
     SetAssertDesktop(nullptr);
-    g_app = nullptr;
 }
-
-COrrevaApp& COrrevaApp::Instance() { return *g_app; }
 
 QSettings COrrevaApp::Profile()
 {
@@ -60,7 +53,9 @@ bool COrrevaApp::InitInstance(const QStringList& arguments)
 {
     ChooseLanguage();
     document = std::make_unique<COrrevaDoc>(host);
-    frame = std::make_unique<CMainFrame>(*document);
+    frame = std::make_unique<CMainFrame>(*document, threadLocale);
+    QObject::connect(frame.get(), &CMainFrame::LanguageChosen, frame.get(),
+                     [this](int language) { OnLanguage(language); });
     host.Attach(frame.get(), document.get());
     if (!ProcessShellCommand(arguments)) {
         return false;
@@ -80,26 +75,7 @@ void COrrevaApp::ChooseLanguage()
         g_nLanguage = QLocale::system().language() == QLocale::German ? kGerman : kEnglish;
         profile.setValue(kLanguageEntry, g_nLanguage);
     }
-    SetThreadLocale(g_nLanguage);
-}
-
-/// Forms take their texts from the translator that is installed at the moment they are built.
-void COrrevaApp::SetThreadLocale(int language)
-{
-    translators.clear(); // a translator that goes takes itself off the application
-    threadGerman = language == kGerman;
-    if (!threadGerman) {
-        return;
-    }
-    const auto install = [this](const QString& name, const QString& folder) {
-        auto translator = std::make_unique<QTranslator>();
-        if (translator->load(name, folder)) {
-            QApplication::installTranslator(translator.get());
-            translators.push_back(std::move(translator));
-        }
-    };
-    install("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    install("orreva_de", ":/translations");
+    threadLocale.Set(g_nLanguage);
 }
 
 bool COrrevaApp::ProcessShellCommand(const QStringList& arguments)
@@ -117,5 +93,5 @@ void COrrevaApp::OnLanguage(int language)
     host.ShowMessage(language == kGerman ? "Beim nächsten Start wird Orreva Deutsch verwenden."_cp1252
                                          : "Orreva will use English on it's next start.");
     Profile().setValue(kLanguageEntry, language);
-    SetThreadLocale(language);
+    threadLocale.Set(language);
 }

@@ -2,14 +2,13 @@
 
 #include "app/HelpKey.h"
 #include "app/QtHost.h"
+#include "app/ThreadLocale.h"
 #include "document/OrrevaDoc.h"
 
 #include <QSettings>
 #include <QStringList>
-#include <QTranslator>
 
 #include <memory>
-#include <vector>
 
 /// The application: settles the language, builds the document and the main window, and routes help.
 class COrrevaApp {
@@ -19,8 +18,6 @@ public:
     COrrevaApp(const COrrevaApp&) = delete;
     COrrevaApp& operator=(const COrrevaApp&) = delete;
 
-    static COrrevaApp& Instance();
-
     /// The start, in its order; `arguments` are the command line's words behind the program's name. False if
     /// the start fails.
     bool InitInstance(const QStringList& arguments);
@@ -29,7 +26,7 @@ public:
     /// on. Texts of the code and the menu on the screen change at the next start.
     void OnLanguage(int language);
     /// Whether dialogs are built in German at this moment.
-    bool IsThreadGerman() const { return threadGerman; }
+    bool IsThreadGerman() const { return threadLocale.IsGerman(); }
 
     CMainFrame& Frame() { return *frame; }
     COrrevaDoc& Document() { return *document; }
@@ -39,13 +36,11 @@ public:
 
 private:
     void ChooseLanguage();
-    void SetThreadLocale(int language);
     bool ProcessShellCommand(const QStringList& arguments);
 
+    CThreadLocale threadLocale;
     CQtHost host;
     HelpKey helpKey;
     std::unique_ptr<COrrevaDoc> document;
     std::unique_ptr<CMainFrame> frame;
-    std::vector<std::unique_ptr<QTranslator>> translators;
-    bool threadGerman = false;
 };

@@ -1,7 +1,7 @@
 #include "cli/Telescope.h"
 
+#include "cli/CommandLine.h"
 #include "cli/Output.h"
-#include "cli/Words.h"
 #include "lib/files/FileBytes.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Numbers.h"
@@ -39,7 +39,7 @@ struct Store {
     void operator()(const UnusedField&) const {}
 };
 
-std::vector<Setting> Settings(const Words& words)
+std::vector<Setting> Settings(const CommandLine& words)
 {
     std::vector<Setting> settings;
     for (const std::string& word : words.Values("--set")) {
@@ -70,7 +70,7 @@ bool TerminalHost::AskQuickNew(QuickNewTexts& texts)
     return true;
 }
 
-bool MakeTelescope(const Words& words, const std::optional<std::string>& file, TerminalHost& host,
+bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& file, TerminalHost& host,
                    COrrevaDoc& document)
 {
     const std::vector<Setting> settings = Settings(words);

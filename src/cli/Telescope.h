@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-struct Words;
+struct CommandLine;
 
 /// The terminal as a document's desktop: messages go to standard error, questions are answered with No, and
 /// dialogs end with the answers that the command line gives.
@@ -32,5 +32,5 @@ public:
 /// Makes the telescope that the words tell: the quick New dialog's, changed by `--diameter`, `--focal-length`
 /// and `--title`, or the one of `file`; then every `--set` in its order, and one recalculation if there was
 /// any. False, told on standard error, if the file cannot be read; a word at fault ends the program.
-bool MakeTelescope(const Words& words, const std::optional<std::string>& file, TerminalHost& host,
+bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& file, TerminalHost& host,
                    COrrevaDoc& document);

@@ -1,12 +1,12 @@
 #include "cli/Verbs.h"
 
 #include "cli/CalcVerb.h"
+#include "cli/CommandLine.h"
 #include "cli/DrawVerb.h"
 #include "cli/ExchangeVerbs.h"
 #include "cli/Output.h"
 #include "cli/RaysVerb.h"
 #include "cli/Telescope.h"
-#include "cli/Words.h"
 #include "cli/report/Report.h"
 #include "document/TelescopeFile.h"
 #include "drawing/SectionZoom.h"
@@ -20,18 +20,18 @@ namespace {
 
 using Limits = std::numeric_limits<std::int32_t>;
 
-std::string OutputPath(const Words& words) { return words.Value("-o").value_or(""); }
+std::string OutputPath(const CommandLine& words) { return words.Value("-o").value_or(""); }
 
 /// A document on the terminal.
-struct Desk {
+struct TerminalDocument {
     TerminalHost host;
     COrrevaDoc document{host};
 
-    Desk() { g_pCurrentDocument = &document; }
+    TerminalDocument() { g_pCurrentDocument = &document; }
 };
 
 /// The file among the plain words from `first` on, if there is one; a second one is a word too many.
-std::optional<std::string> FileWord(const Words& words, std::size_t first)
+std::optional<std::string> FileWord(const CommandLine& words, std::size_t first)
 {
     if (words.plain.size() > first + 1) {
         UsageError("too many words:", words.plain[first + 1]);
@@ -42,13 +42,13 @@ std::optional<std::string> FileWord(const Words& words, std::size_t first)
 // Each verb understands all of its words before it reads or writes anything.
 // ---------------------------------
 
-ReportContext ContextOf(Desk& desk)
+ReportContext ContextOf(TerminalDocument& terminal)
 {
-    return {*desk.document.active_record, desk.document.field_angle_100, desk.document.field_diameter_100,
-            desk.document.mirror_back_position, g_nLanguage};
+    return {*terminal.document.active_record, terminal.document.field_angle_100,
+            terminal.document.field_diameter_100, terminal.document.mirror_back_position, g_nLanguage};
 }
 
-std::vector<const ReportPage*> PagesOf(const Words& words)
+std::vector<const ReportPage*> PagesOf(const CommandLine& words)
 {
     std::vector<const ReportPage*> pages;
     for (const std::string& name : words.Values("--page")) {
@@ -65,13 +65,14 @@ std::vector<const ReportPage*> PagesOf(const Words& words)
     return pages;
 }
 
-std::int32_t Choice(const Words& words, const char* option, std::initializer_list<std::string_view> choices)
+std::int32_t Choice(const CommandLine& words, const char* option,
+                    std::initializer_list<std::string_view> choices)
 {
     const auto value = words.Value(option);
     return value ? static_cast<std::int32_t>(ChoiceOf(option, *value, choices)) : 0;
 }
 
-ZoneOptions ZonesOf(const Words& words)
+ZoneOptions ZonesOf(const CommandLine& words)
 {
     ZoneOptions zones{words.Value("--zones"), words.Value("--centre"), words.Value("--edge"), {}};
     zones.view.mask_type = Choice(words, "--template", {"couder", "everest"});
@@ -80,16 +81,16 @@ ZoneOptions ZonesOf(const Words& words)
     return zones;
 }
 
-int Report(const Words& words)
+int Report(const CommandLine& words)
 {
     const std::vector<const ReportPage*> pages = PagesOf(words);
     const ZoneOptions zones = ZonesOf(words);
     const auto file = FileWord(words, 0);
-    Desk desk;
-    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+    TerminalDocument terminal;
+    if (!MakeTelescope(words, file, terminal.host, terminal.document)) {
         return kFailed;
     }
-    ReportContext context = ContextOf(desk);
+    ReportContext context = ContextOf(terminal);
     context.details = words.Has("--details");
     context.zones = zones;
     Output output(OutputPath(words));
@@ -104,7 +105,7 @@ RayMode ModeOf(const std::string& mode)
     return kModes[ChoiceOf("--mode", mode, {"parallel", "focal", "pointer"})];
 }
 
-ViewOptions ViewOf(const Words& words)
+ViewOptions ViewOf(const CommandLine& words)
 {
     ViewOptions view;
     if (const auto mode = words.Value("--mode")) {
@@ -121,7 +122,7 @@ ViewOptions ViewOf(const Words& words)
     return view;
 }
 
-int Rays(const Words& words)
+int Rays(const CommandLine& words)
 {
     for (const char* const option : {"--mode", "--pointer"}) {
         if (!words.Has(option)) {
@@ -130,14 +131,14 @@ int Rays(const Words& words)
     }
     const ViewOptions view = ViewOf(words);
     const auto file = FileWord(words, 0);
-    Desk desk;
-    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+    TerminalDocument terminal;
+    if (!MakeTelescope(words, file, terminal.host, terminal.document)) {
         return kFailed;
     }
-    return WriteOutput(OutputPath(words), RaysText(*desk.document.active_record, view, g_nLanguage));
+    return WriteOutput(OutputPath(words), RaysText(*terminal.document.active_record, view, g_nLanguage));
 }
 
-double NumberOption(const Words& words, const char* option, double otherwise)
+double NumberOption(const CommandLine& words, const char* option, double otherwise)
 {
     const auto value = words.Value(option);
     return value ? TextToDouble(value->c_str()) : otherwise;
@@ -157,7 +158,7 @@ constexpr PictureOption kPictureOptions[] = {
     {"--thickness", "polygon"},    {"--value", "sector"},
 };
 
-void RefuseOptionsOfOthers(const Words& words, std::string_view picture)
+void RefuseOptionsOfOthers(const CommandLine& words, std::string_view picture)
 {
     for (const PictureOption& own : kPictureOptions) {
         if (words.Has(own.option) && own.picture != picture && own.other != picture) {
@@ -167,13 +168,13 @@ void RefuseOptionsOfOthers(const Words& words, std::string_view picture)
 }
 
 /// The words without an option; for the calculators' pictures the diameter is theirs and no telescope's.
-Words Without(Words words, std::string_view option)
+CommandLine Without(CommandLine words, std::string_view option)
 {
     std::erase_if(words.options, [option](const auto& given) { return given.first == option; });
     return words;
 }
 
-DrawOptions DrawOptionsOf(const Words& words, const std::string& picture)
+DrawOptions DrawOptionsOf(const CommandLine& words, const std::string& picture)
 {
     DrawOptions options = OpeningOptions(picture);
     static_cast<ViewOptions&>(options) = ViewOf(words);
@@ -202,7 +203,7 @@ DrawOptions DrawOptionsOf(const Words& words, const std::string& picture)
     return options;
 }
 
-int Draw(const Words& words)
+int Draw(const CommandLine& words)
 {
     for (const char* const option : {"--picture", "--size", "-o"}) {
         if (!words.Has(option)) {
@@ -222,11 +223,12 @@ int Draw(const Words& words)
         UsageError("a picture does not go into", path);
     }
     const auto file = FileWord(words, 0);
-    Desk desk;
-    if (!MakeTelescope(calculator ? Without(words, "--diameter") : words, file, desk.host, desk.document)) {
+    TerminalDocument terminal;
+    if (!MakeTelescope(calculator ? Without(words, "--diameter") : words, file, terminal.host,
+                       terminal.document)) {
         return kFailed;
     }
-    const COrrevaDoc& document = desk.document;
+    const COrrevaDoc& document = terminal.document;
     const DrawContext context{*document.active_record,
                               {document.field_diameter_100, document.field_angle_100},
                               g_nLanguage,
@@ -234,27 +236,27 @@ int Draw(const Words& words)
     return DrawPicture(*picture, context, path) == 0 ? kDone : Fail("cannot write " + path);
 }
 
-int Save(const Words& words)
+int Save(const CommandLine& words)
 {
     const auto file = FileWord(words, 0);
-    Desk desk;
-    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+    TerminalDocument terminal;
+    if (!MakeTelescope(words, file, terminal.host, terminal.document)) {
         return kFailed;
     }
-    return WriteOutput(OutputPath(words), WriteTelescope(*desk.document.active_record));
+    return WriteOutput(OutputPath(words), WriteTelescope(*terminal.document.active_record));
 }
 
-int Import(const Words& words)
+int Import(const CommandLine& words)
 {
     const auto file = FileWord(words, 0);
     if (!file) {
         UsageError("import needs a file behind", "import");
     }
-    Desk desk;
-    return ImportVerb(desk.document, *file, OutputPath(words));
+    TerminalDocument terminal;
+    return ImportVerb(terminal.document, *file, OutputPath(words));
 }
 
-int Export(const Words& words)
+int Export(const CommandLine& words)
 {
     if (words.plain.empty()) {
         UsageError("export needs oslo or fta behind", "export");
@@ -264,18 +266,18 @@ int Export(const Words& words)
         UsageError("unknown export", words.plain.front());
     }
     const auto file = FileWord(words, 1);
-    Desk desk;
-    if (!MakeTelescope(words, file, desk.host, desk.document)) {
+    TerminalDocument terminal;
+    if (!MakeTelescope(words, file, terminal.host, terminal.document)) {
         return kFailed;
     }
-    return form->run(desk.document, OutputPath(words));
+    return form->run(terminal.document, OutputPath(words));
 }
 
-int Calc(const Words& words) { return CalcVerb(words.plain, OutputPath(words)); }
+int Calc(const CommandLine& words) { return CalcVerb(words.plain, OutputPath(words)); }
 
 struct Entry {
     Verb verb;
-    int (*run)(const Words& words);
+    int (*run)(const CommandLine& words);
 };
 
 constexpr Entry kEntries[] = {{kReport, Report}, {kRays, Rays},     {kDraw, Draw}, {kSaveVerb, Save},
@@ -283,7 +285,7 @@ constexpr Entry kEntries[] = {{kReport, Report}, {kRays, Rays},     {kDraw, Draw
 
 } // namespace
 
-int RunVerb(const Words& words)
+int RunVerb(const CommandLine& words)
 {
     for (const Entry& entry : kEntries) {
         if (entry.verb == words.verb) {

@@ -1,6 +1,6 @@
 #pragma once
 
-struct Words;
+struct CommandLine;
 
 /// Does what the words say; the exit status. A word that is not understood ends the program.
-int RunVerb(const Words& words);
+int RunVerb(const CommandLine& words);

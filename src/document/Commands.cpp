@@ -12,7 +12,7 @@ constexpr Command Desktop(std::int32_t command, Enabled enabled) { return {comma
 
 constexpr Command Opens(std::int32_t command, Enabled enabled, Modal modal)
 {
-    return {.id = command, .enabled = enabled, .modal = modal, .runs_modal = true};
+    return {.id = command, .enabled = enabled, .modal = modal};
 }
 
 constexpr Command Switch(std::int32_t command, Enabled enabled, void (Doc::*action)(),
@@ -108,13 +108,13 @@ bool IsChecked(const Command& command, const COrrevaDoc& document)
 bool RunCommand(std::int32_t command, COrrevaDoc& document)
 {
     const Command* const found = FindCommand(command);
-    if (found == nullptr || (found->action == nullptr && !found->runs_modal)) {
+    if (found == nullptr || (found->action == nullptr && !found->modal)) {
         return false;
     }
     if (found->action != nullptr) {
         (document.*found->action)();
     } else {
-        document.Host().RunModal(found->modal);
+        document.Host().RunModal(*found->modal);
     }
     return true;
 }

@@ -3,6 +3,7 @@
 #include "document/OrrevaDoc.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 
 enum class Enabled : std::uint8_t {
@@ -18,9 +19,8 @@ struct Command {
     Enabled enabled;
     /// What the document does; null for a command of the desktop (printing, tools, language, help).
     void (COrrevaDoc::*action)() = nullptr;
-    /// The modal sheet or dialog that is all the command does; with `runs_modal`.
-    Modal modal = Modal::TelescopeSheet;
-    bool runs_modal = false;
+    /// The modal sheet or dialog that is all the command does.
+    std::optional<Modal> modal = std::nullopt;
     /// The switch that the check mark shows, null for none.
     std::uint8_t ViewSwitches::*check = nullptr;
     bool check_inverted = false;

@@ -92,8 +92,9 @@ private:
     DocumentHost& host;
 };
 
-/// The current document, through which pages reach the record. The cross-section view stores it at the start
-/// of each drawing; until the first one it is null, and records leave the title bar alone.
+/// The current document: the only one whose records set the title bar. The cross-section view stores it at
+/// the start of each drawing, and until the first one it is null. Pages and views hold their document
+/// themselves.
 extern COrrevaDoc* g_pCurrentDocument;
 
 /// 1 while the telescope sheet is to run as a wizard.

@@ -1,7 +1,7 @@
 #include "drawing/MirrorPanelPicture.h"
 
-#include "drawing/PanelRowsPicture.h"
 #include "drawing/RowLayout.h"
+#include "drawing/SidePanelPicture.h"
 
 namespace {
 
@@ -38,7 +38,7 @@ void PaintCouderMask(Surface& surface, std::int32_t top)
 void PaintMirrorPanel(Surface& surface, COrrevaData& record, Colour background, Colour text)
 {
     PaintPanelBackground(surface, background);
-    const std::int32_t y = PaintPanelRows(surface, MirrorPanelRows(record), text);
+    const std::int32_t y = PaintSidePanelRows(surface, MirrorPanelRows(record), text);
     PaintThinLine(surface, y);
     PaintCouderMask(surface, y);
 }

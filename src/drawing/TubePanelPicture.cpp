@@ -1,9 +1,9 @@
 #include "drawing/TubePanelPicture.h"
 
-#include "drawing/PanelRowsPicture.h"
+#include "drawing/SidePanelPicture.h"
 
 void PaintTubePanel(Surface& surface, COrrevaData& record, int language, Colour background, Colour text)
 {
     PaintPanelBackground(surface, background);
-    PaintPanelRows(surface, TubePanelRows(record, language), text);
+    PaintSidePanelRows(surface, TubePanelRows(record, language), text);
 }

@@ -38,13 +38,13 @@ QString ToString(std::string_view text)
     return QString::fromStdString(Utf8FromCp1252(text.substr(0, kLongestText)));
 }
 
-double Tamed(double place) { return std::clamp(place, -kFarthest, kFarthest); }
+double ClampToDevice(double place) { return std::clamp(place, -kFarthest, kFarthest); }
 
 /// The outline runs through the middles of the box's outer pixels.
 QRectF OutlineBox(const PixelRect& box)
 {
-    return QRectF(QPointF(Tamed(box.left), Tamed(box.top)),
-                  QPointF(Tamed(box.right - 1.0), Tamed(box.bottom - 1.0)));
+    return QRectF(QPointF(ClampToDevice(box.left), ClampToDevice(box.top)),
+                  QPointF(ClampToDevice(box.right - 1.0), ClampToDevice(box.bottom - 1.0)));
 }
 
 /// The toolkit's angle of the direction from the box's centre to `to`.
@@ -58,12 +58,12 @@ double AngleOf(const QRectF& box, Pixel to)
 }
 
 /// A stretch of an outline in the toolkit's angles.
-struct Stretch {
+struct AngleSpan {
     int start;
     int length;
 };
 
-Stretch StretchOf(const QRectF& box, Pixel from, Pixel to)
+AngleSpan AngleSpanOf(const QRectF& box, Pixel from, Pixel to)
 {
     const double start = AngleOf(box, from);
     double length = AngleOf(box, to) - start;
@@ -163,7 +163,7 @@ void PainterSurface::VectorPolygon(std::span<const Pixel> points, Colour pen, Co
 {
     QPolygonF polygon;
     for (const Pixel point : points) {
-        polygon << QPointF(Tamed(point.x) + 0.5, Tamed(point.y) + 0.5);
+        polygon << QPointF(ClampToDevice(point.x) + 0.5, ClampToDevice(point.y) + 0.5);
     }
     painter.setPen(QPen(ToColor(pen), 1));
     painter.setBrush(ToColor(brush));
@@ -180,7 +180,7 @@ void PainterSurface::Ellipse(const PixelRect& box, Colour pen, std::int32_t penW
 void PainterSurface::Arc(const PixelRect& box, Pixel from, Pixel to, Colour pen)
 {
     const QRectF outline = OutlineBox(box);
-    const Stretch stretch = StretchOf(outline, from, to);
+    const AngleSpan stretch = AngleSpanOf(outline, from, to);
     painter.setPen(QPen(ToColor(pen), 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawArc(outline, stretch.start, stretch.length);
@@ -189,7 +189,7 @@ void PainterSurface::Arc(const PixelRect& box, Pixel from, Pixel to, Colour pen)
 void PainterSurface::Chord(const PixelRect& box, Pixel from, Pixel to, Colour pen, Colour brush)
 {
     const QRectF outline = OutlineBox(box);
-    const Stretch stretch = StretchOf(outline, from, to);
+    const AngleSpan stretch = AngleSpanOf(outline, from, to);
     painter.setPen(QPen(ToColor(pen), 1));
     painter.setBrush(ToColor(brush));
     painter.drawChord(outline, stretch.start, stretch.length);

@@ -1,6 +1,6 @@
+#include "cli/CommandLine.h"
 #include "cli/Output.h"
 #include "cli/Verbs.h"
-#include "cli/Words.h"
 #include "lib/text/Language.h"
 #include "lib/text/LogSink.h"
 
@@ -45,7 +45,8 @@ int main(int argc, char** argv)
 {
     std::signal(SIGPIPE, SIG_IGN); // a reader that has seen enough ends the output as a failed write
     SetLogSink(nullptr);           // standard error is for the user, in a debug build too
-    const Words words = TakeApart(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    const CommandLine words =
+        ParseCommandLine(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
     if (words.help || words.version) {
         return WriteOutput("", words.help ? kHelp : kVersion);
     }

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "views/Panel.h"
+#include "views/SidePanel.h"
 
 /// The mirror's data and the look of a Couder mask beside the pages of the Foucault test.
-class CMirrorPanel : public CPanel {
+class CMirrorPanel : public CSidePanel {
     Q_OBJECT
 
 public:
-    using CPanel::CPanel;
+    using CSidePanel::CSidePanel;
 
 protected:
     void Paint(Surface& surface, Colour background, Colour text) override;

@@ -16,8 +16,8 @@ namespace {
 /// So that a list of a thousand million rows is not pasted by accident.
 constexpr qsizetype kMostCopiedRows = 10000;
 
-/// The toolkit's list keeps something for each row that it is told of, so it is told of more only when the
-/// user has scrolled to the end of those it has.
+/// The toolkit's list keeps something for each row that it is announced of, so it is announced of more only
+/// when the user has scrolled to the end of those it has.
 constexpr int kRowsAtOnce = 1000;
 
 /// Rows beyond those in sight that widths are measured by.
@@ -35,7 +35,7 @@ public:
         columns.assign(newColumns.begin(), newColumns.end());
         language = newLanguage;
         count = 0;
-        told = 0;
+        announced = 0;
         endResetModel();
     }
 
@@ -43,7 +43,7 @@ public:
     {
         beginResetModel();
         count = newCount;
-        told = std::min(count, kRowsAtOnce);
+        announced = std::min(count, kRowsAtOnce);
         row = std::move(newRow);
         endResetModel();
     }
@@ -57,13 +57,16 @@ public:
         return place < cells.size() ? ToQString(cells[place]) : QString();
     }
 
-    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : told; }
-    bool canFetchMore(const QModelIndex& parent) const override { return !parent.isValid() && told < count; }
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : announced; }
+    bool canFetchMore(const QModelIndex& parent) const override
+    {
+        return !parent.isValid() && announced < count;
+    }
     void fetchMore(const QModelIndex&) override
     {
-        const int more = std::min(count - told, kRowsAtOnce);
-        beginInsertRows({}, told, told + more - 1);
-        told += more;
+        const int more = std::min(count - announced, kRowsAtOnce);
+        beginInsertRows({}, announced, announced + more - 1);
+        announced += more;
         endInsertRows();
     }
     int columnCount(const QModelIndex& parent = {}) const override
@@ -102,7 +105,7 @@ private:
     std::vector<ListColumn> columns;
     std::function<ListRow(int)> row;
     int count = 0;
-    int told = 0; ///< how many of them the toolkit knows
+    int announced = 0; ///< how many of them the toolkit knows
     int language = 0;
 };
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "views/Panel.h"
+#include "views/SidePanel.h"
 
 /// The tube's dimensions beside the pages of the tube design.
-class CTubePanel : public CPanel {
+class CTubePanel : public CSidePanel {
     Q_OBJECT
 
 public:
-    using CPanel::CPanel;
+    using CSidePanel::CSidePanel;
 
 protected:
     void Paint(Surface& surface, Colour background, Colour text) override;

@@ -1,6 +1,6 @@
+#include "document/OldFormat.h"
 #include "document/Commands.h"
 #include "document/OldArchive.h"
-#include "document/OldFormat.h"
 #include "document/TelescopeFile.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Language.h"

@@ -39,7 +39,8 @@ private:
 
 } // namespace
 
-COrrevaData::COrrevaData(RecordHost* recordHost, RecordFiles* recordFiles) : host(recordHost), files(recordFiles)
+COrrevaData::COrrevaData(RecordHost* recordHost, RecordFiles* recordFiles)
+    : host(recordHost), files(recordFiles)
 {
     Clear();
 }

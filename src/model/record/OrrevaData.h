@@ -43,8 +43,8 @@ public:
 /// the upper cage or solid tube, "box" the mirror box, "oaz" the drawtube focuser, "osch" the sliding one.
 class COrrevaData : public TelescopeFields {
 public:
-    /// `host` may be null: questions are then answered with No, messages and titles go nowhere. So may `files`:
-    /// nothing is then written or read.
+    /// `host` may be null: questions are then answered with No, messages and titles go nowhere. So may
+    /// `files`: nothing is then written or read.
     explicit COrrevaData(RecordHost* host = nullptr, RecordFiles* files = nullptr);
     COrrevaData(const COrrevaData&) = delete;
     COrrevaData& operator=(const COrrevaData&) = delete;

@@ -139,7 +139,8 @@ TEST_F(CurrentMask, AZoneTooManyTripsTheAssertionAndIsNotWritten)
             AnsweringDesktop desktop(answer);
             TakeOverZones(Fields(wanted), 200, 1200);
             ASSERT_EQ(1u, desktop.texts.size()) << wanted;
-            EXPECT_EQ(0u, desktop.texts[0].find("Assert(i<MAX_MASK_ZONES);\nFile src/model/optics/CouderMask.cpp"))
+            EXPECT_EQ(
+                0u, desktop.texts[0].find("Assert(i<MAX_MASK_ZONES);\nFile src/model/optics/CouderMask.cpp"))
                 << desktop.texts[0];
             EXPECT_LT(64, g_pCurrentMask->zone_count);
             EXPECT_EQ(HUGE_VAL, g_pCurrentMask->GetInnerRadius(64));

@@ -79,7 +79,7 @@ TEST(CommandDialogTable, HasARowForEachModal)
 {
     for (const Command& command : Commands()) {
         const auto hasRow = [&](const DialogRow& row) { return row.command == command.id; };
-        EXPECT_TRUE(!command.runs_modal || std::ranges::any_of(kDialogs, hasRow)) << command.id;
+        EXPECT_TRUE(!command.modal || std::ranges::any_of(kDialogs, hasRow)) << command.id;
     }
 }
 

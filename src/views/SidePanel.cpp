@@ -1,4 +1,4 @@
-#include "views/Panel.h"
+#include "views/SidePanel.h"
 
 #include "painting/PainterSurface.h"
 
@@ -17,13 +17,13 @@ Colour ToColour(const QColor& color)
 
 } // namespace
 
-CPanel::CPanel(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), document(doc)
+CSidePanel::CSidePanel(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), document(doc)
 {
     setProperty("controlId", kPanelControl);
     setMinimumHeight(kLeastHeight);
 }
 
-void CPanel::paintEvent(QPaintEvent*)
+void CSidePanel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     PainterSurface surface(painter, width(), height());

@@ -19,7 +19,7 @@ enum Verb : std::uint32_t {
 };
 
 /// The command line, taken apart: the verb, the words that are no options, and the options in their order.
-struct Words {
+struct CommandLine {
     Verb verb = kReport;
     std::vector<std::string> plain;
     std::vector<std::pair<std::string, std::string>> options;
@@ -33,7 +33,7 @@ struct Words {
 };
 
 /// Takes `arguments` (behind the program's name) apart. A word that is not understood ends the program.
-Words TakeApart(const std::vector<std::string>& arguments);
+CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
 
 /// Ends the program with status 2 and one line on standard error that names the word at fault.
 [[noreturn]] void UsageError(const std::string& reason, const std::string& word);

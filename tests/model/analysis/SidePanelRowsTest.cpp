@@ -1,4 +1,4 @@
-#include "model/analysis/PanelRows.h"
+#include "model/analysis/SidePanelRows.h"
 
 #include "lib/text/CodePage.h"
 #include "lib/text/Language.h"
@@ -7,10 +7,10 @@
 
 namespace {
 
-std::vector<std::string> Shown(const std::vector<PanelRow>& rows)
+std::vector<std::string> Shown(const std::vector<SidePanelRow>& rows)
 {
     std::vector<std::string> lines;
-    for (const PanelRow& row : rows) {
+    for (const SidePanelRow& row : rows) {
         lines.push_back((row.line_on_top ? "-- " : "") + Utf8FromCp1252(row.label + " | " + row.value));
     }
     return lines;
@@ -24,7 +24,7 @@ void Make200(COrrevaData& record)
     record.GetFocalPlaneHeight();
 }
 
-TEST(PanelRows, TubePanelListsTheTubeFromTheTop)
+TEST(SidePanelRows, TubePanelListsTheTubeFromTheTop)
 {
     COrrevaData record;
     Make200(record);
@@ -52,7 +52,7 @@ TEST(PanelRows, TubePanelListsTheTubeFromTheTop)
               Shown(TubePanelRows(record, kGerman)));
 }
 
-TEST(PanelRows, FieldsNeverSetShowTheirDefaults)
+TEST(SidePanelRows, FieldsNeverSetShowTheirDefaults)
 {
     COrrevaData record;
     record.GetFocalPlaneHeight();
@@ -62,7 +62,7 @@ TEST(PanelRows, FieldsNeverSetShowTheirDefaults)
     EXPECT_DOUBLE_EQ(62.5, record.distance_back);
 }
 
-TEST(PanelRows, MirrorPanelIsGermanInEveryLanguage)
+TEST(SidePanelRows, MirrorPanelIsGermanInEveryLanguage)
 {
     COrrevaData record;
     EXPECT_EQ((std::vector<std::string>{"Spiegeldurchmesser: | 250.0 mm (9.84\")",
@@ -70,13 +70,13 @@ TEST(PanelRows, MirrorPanelIsGermanInEveryLanguage)
               Shown(MirrorPanelRows(record)));
 }
 
-TEST(PanelRows, EmptiedAndOddFieldsArePrintedAsTheyComeOut)
+TEST(SidePanelRows, EmptiedAndOddFieldsArePrintedAsTheyComeOut)
 {
     COrrevaData record;
     record.SetInsideDiameterHat(0);
     record.SetThicknessHat(-5);
     record.SetDistanceBack(-1e300);
-    const std::vector<PanelRow> rows = TubePanelRows(record, kEnglish);
+    const std::vector<SidePanelRow> rows = TubePanelRows(record, kEnglish);
     EXPECT_EQ("0.0 mm (0.00\")", rows[1].value);
     EXPECT_EQ("-10.0 mm (-0.39\")", rows[2].value);
     EXPECT_EQ(307u, rows[4].value.size()) << "sign, 301 digits, one decimal and ' mm'";

@@ -1,4 +1,4 @@
-#include "model/analysis/PanelRows.h"
+#include "model/analysis/SidePanelRows.h"
 
 #include "lib/text/CodePage.h"
 #include "lib/text/FormatText.h"
@@ -52,18 +52,18 @@ constexpr TubePanelRow kTubeRows[] = {
 
 } // namespace
 
-std::vector<PanelRow> TubePanelRows(COrrevaData& record, int language)
+std::vector<SidePanelRow> TubePanelRows(COrrevaData& record, int language)
 {
-    std::vector<PanelRow> rows;
+    std::vector<SidePanelRow> rows;
     for (const TubePanelRow& row : kTubeRows) {
         rows.push_back({row.label.In(language), row.text(row.value(record)), !rows.empty()});
     }
     return rows;
 }
 
-std::vector<PanelRow> MirrorPanelRows(COrrevaData& record)
+std::vector<SidePanelRow> MirrorPanelRows(COrrevaData& record)
 {
-    std::vector<PanelRow> rows;
+    std::vector<SidePanelRow> rows;
     rows.push_back({"Spiegeldurchmesser:", MillimetresAndInches(record.GetMirrorDiameter()), false});
     rows.push_back({"Brennweite:", MillimetresAndInches(record.GetFocalLength()), false});
     return rows;

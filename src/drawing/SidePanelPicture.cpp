@@ -1,4 +1,4 @@
-#include "drawing/PanelRowsPicture.h"
+#include "drawing/SidePanelPicture.h"
 
 #include "drawing/RowLayout.h"
 
@@ -7,12 +7,12 @@ void PaintPanelBackground(Surface& surface, Colour background)
     surface.FillRect({0, 0, surface.Width(), surface.Height()}, background);
 }
 
-std::int32_t PaintPanelRows(Surface& surface, const std::vector<PanelRow>& rows, Colour text)
+std::int32_t PaintSidePanelRows(Surface& surface, const std::vector<SidePanelRow>& rows, Colour text)
 {
     constexpr std::int32_t kTop = 20;
     constexpr Font kFont{kScreenFontHeight, Font::kNormal};
     std::int32_t y = kTop;
-    for (const PanelRow& row : rows) {
+    for (const SidePanelRow& row : rows) {
         if (row.line_on_top) {
             PaintThinLine(surface, y);
         }

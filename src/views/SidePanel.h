@@ -8,11 +8,11 @@ class COrrevaDoc;
 
 /// A painted panel beside the pages of a sheet, its child window 4096. It has no data of its own: it reads
 /// the document's active record whenever it is painted, and has the sheet's own colours.
-class CPanel : public QWidget {
+class CSidePanel : public QWidget {
     Q_OBJECT
 
 public:
-    CPanel(COrrevaDoc& document, QWidget* parent);
+    CSidePanel(COrrevaDoc& document, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -7,14 +7,14 @@
 
 /// The rows of the two panels beside the tube design and the Foucault test.
 
-struct PanelRow {
+struct SidePanelRow {
     std::string label;
     std::string value;
     bool line_on_top = false;
 };
 
 /// The tube's dimensions, from top to bottom.
-std::vector<PanelRow> TubePanelRows(COrrevaData& record, int language);
+std::vector<SidePanelRow> TubePanelRows(COrrevaData& record, int language);
 
 /// The mirror's data; German in both languages.
-std::vector<PanelRow> MirrorPanelRows(COrrevaData& record);
+std::vector<SidePanelRow> MirrorPanelRows(COrrevaData& record);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drawing/Surface.h"
-#include "model/analysis/PanelRows.h"
+#include "model/analysis/SidePanelRows.h"
 
 #include <vector>
 
@@ -12,6 +12,6 @@
 void PaintPanelBackground(Surface& surface, Colour background);
 
 /// Paints the rows in the colour of text; the position under the last one.
-std::int32_t PaintPanelRows(Surface& surface, const std::vector<PanelRow>& rows, Colour text);
+std::int32_t PaintSidePanelRows(Surface& surface, const std::vector<SidePanelRow>& rows, Colour text);
 
 void PaintThinLine(Surface& surface, std::int32_t y);

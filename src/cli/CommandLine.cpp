@@ -1,4 +1,4 @@
-#include "cli/Words.h"
+#include "cli/CommandLine.h"
 
 #include "lib/text/CharTools.h"
 #include "lib/text/Numbers.h"
@@ -86,15 +86,15 @@ std::size_t FindVerb(const std::vector<std::string>& words)
 
 } // namespace
 
-bool Words::Has(std::string_view option) const { return !Values(option).empty(); }
+bool CommandLine::Has(std::string_view option) const { return !Values(option).empty(); }
 
-std::optional<std::string> Words::Value(std::string_view option) const
+std::optional<std::string> CommandLine::Value(std::string_view option) const
 {
     const std::vector<std::string> values = Values(option);
     return values.empty() ? std::nullopt : std::optional(values.back());
 }
 
-std::vector<std::string> Words::Values(std::string_view option) const
+std::vector<std::string> CommandLine::Values(std::string_view option) const
 {
     std::vector<std::string> values;
     for (const auto& [name, value] : options) {
@@ -105,9 +105,9 @@ std::vector<std::string> Words::Values(std::string_view option) const
     return values;
 }
 
-Words TakeApart(const std::vector<std::string>& arguments)
+CommandLine ParseCommandLine(const std::vector<std::string>& arguments)
 {
-    Words words;
+    CommandLine words;
     const std::size_t verbAt = FindVerb(arguments);
     const bool hasVerb = verbAt < arguments.size();
     if (hasVerb) {
