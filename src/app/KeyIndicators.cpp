@@ -30,7 +30,7 @@ KeyIndicators::KeyIndicators(QStatusBar& bar) : QObject(&bar)
         label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         label->setEnabled(false);
         bar.addPermanentWidget(label);
-        fields[i] = {label, false};
+        m_fields[i] = {label, false};
     }
     qApp->installEventFilter(this);
 }
@@ -51,7 +51,7 @@ void KeyIndicators::Follow(int key, unsigned modifiers)
 {
     for (std::size_t i = 0; i < std::size(kLocks); ++i) {
         const Lock& lock = kLocks[i];
-        Field& field = fields[i];
+        Field& field = m_fields[i];
         const bool before = lock.mask != 0 ? (modifiers & lock.mask) != 0 : field.on;
         field.on = key == lock.key ? !before : before;
         field.label->setEnabled(field.on);

@@ -23,5 +23,5 @@ private:
         QLabel* label;
         bool on;
     };
-    Field fields[3];
+    Field m_fields[3];
 };

@@ -31,9 +31,9 @@ bool IsViewStyle(int id) { return id >= kFirstViewStyle && id <= kLastViewStyle;
 } // namespace
 
 CMainFrame::CMainFrame(COrrevaDoc& doc, const CThreadLocale& locale)
-    : document(doc), threadLocale(locale), ui(std::make_unique<Ui::MainFrame>())
+    : m_document(doc), m_threadLocale(locale), m_ui(std::make_unique<Ui::MainFrame>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     setWindowIcon(QIcon(":/icons/orreva.svg"));
     CreateBars();
     CreatePanes();
@@ -47,26 +47,26 @@ CMainFrame::~CMainFrame() = default;
 
 void CMainFrame::CreateBars()
 {
-    dialogBar = new CMyDialogBar(document, ui->dialogBarBand);
-    ui->dialogBarBand->addWidget(dialogBar);
-    new KeyIndicators(*ui->statusBar);
+    m_dialogBar = new CMyDialogBar(m_document, m_ui->dialogBarBand);
+    m_ui->dialogBarBand->addWidget(m_dialogBar);
+    new KeyIndicators(*m_ui->statusBar);
 }
 
 void CMainFrame::CreatePanes()
 {
     auto* const splitter = new QSplitter(Qt::Horizontal, this);
-    left = new CLeftView(document, splitter);
-    right = new COrrevaView(document, splitter);
+    m_left = new CLeftView(m_document, splitter);
+    m_right = new COrrevaView(m_document, splitter);
     splitter->setChildrenCollapsible(false);
     splitter->setStretchFactor(1, 1);
     const int leftWidth = CLeftView::CreationWidth(kPaneWidth);
     splitter->setSizes({leftWidth, std::max(kPaneWidth, width() - leftWidth)});
     setCentralWidget(splitter);
-    for (CPane* const pane : {static_cast<CPane*>(left), static_cast<CPane*>(right)}) {
-        connect(pane, &CPane::Activated, this, [this](CPane* activated) { active = activated; });
+    for (CPane* const pane : {static_cast<CPane*>(m_left), static_cast<CPane*>(m_right)}) {
+        connect(pane, &CPane::Activated, this, [this](CPane* activated) { m_active = activated; });
     }
-    active = left;
-    left->setFocus();
+    m_active = m_left;
+    m_left->setFocus();
 }
 
 void CMainFrame::BindActions()
@@ -89,7 +89,7 @@ void CMainFrame::BindAccelerators()
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this, [this, id = accelerator.id] {
             const Command* const command = FindCommand(id);
-            if (command != nullptr && IsEnabled(*command, document)) {
+            if (command != nullptr && IsEnabled(*command, m_document)) {
                 OnCommand(id);
             }
         });
@@ -103,15 +103,15 @@ void CMainFrame::SetDocumentTitle(const QString& title)
 
 void CMainFrame::Freeze(bool frozen)
 {
-    left->setUpdatesEnabled(!frozen);
-    right->setUpdatesEnabled(!frozen);
-    dialogBar->Freeze(frozen);
+    m_left->setUpdatesEnabled(!frozen);
+    m_right->setUpdatesEnabled(!frozen);
+    m_dialogBar->Freeze(frozen);
 }
 
 void CMainFrame::UpdateAllViews()
 {
-    left->update();
-    right->update();
+    m_left->update();
+    m_right->update();
     UpdateActions();
 }
 
@@ -122,9 +122,9 @@ void CMainFrame::UpdateActions()
         if (IsViewStyle(id)) {
             UpdateViewStyles(*action, id);
         } else if (const Command* const command = FindCommand(id)) {
-            action->setEnabled(IsEnabled(*command, document));
+            action->setEnabled(IsEnabled(*command, m_document));
             if (action->isCheckable()) {
-                action->setChecked(IsChecked(*command, document));
+                action->setChecked(IsChecked(*command, m_document));
             }
         }
     }
@@ -134,13 +134,13 @@ void CMainFrame::UpdateActions()
 void CMainFrame::UpdateViewStyles(QAction& action, int id)
 {
     constexpr int kStyleOfThePane = 0;
-    action.setEnabled(right != nullptr);
+    action.setEnabled(m_right != nullptr);
     action.setChecked(id - kFirstViewStyle == kStyleOfThePane);
 }
 
 void CMainFrame::OnCommand(int id)
 {
-    if (!active->OnCommand(id) && !RunCommand(id, document)) {
+    if (!m_active->OnCommand(id) && !RunCommand(id, m_document)) {
         RunDesktopCommand(id);
     }
     UpdateActions();
@@ -150,10 +150,10 @@ void CMainFrame::RunDesktopCommand(int id)
 {
     switch (id) {
     case command_id::kPrint:
-        PrintPane(*active, this);
+        PrintPane(*m_active, this);
         break;
     case command_id::kPrintPreview:
-        PreviewPane(*active, this);
+        PreviewPane(*m_active, this);
         break;
     case command_id::kPrintSetup:
         SetUpPrinter(this);
@@ -179,7 +179,7 @@ void CMainFrame::RunDesktopCommand(int id)
         WinHelp(0, kHelpThemesCommand);
         break;
     case command_id::kAbout:
-        CAboutBox(threadLocale.IsGerman(), this).exec();
+        CAboutBox(m_threadLocale.IsGerman(), this).exec();
         break;
     default:
         break; // the toolkit's save and the view styles: nothing
@@ -189,12 +189,12 @@ void CMainFrame::RunDesktopCommand(int id)
 void CMainFrame::closeEvent(QCloseEvent* event)
 {
     // The prompt has no Cancel, so that every close goes through; a second one while it stands waits.
-    if (closing) {
+    if (m_closing) {
         event->ignore();
         return;
     }
-    closing = true;
-    document.OnCloseDocument();
-    closing = false;
+    m_closing = true;
+    m_document.OnCloseDocument();
+    m_closing = false;
     event->accept();
 }

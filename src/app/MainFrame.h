@@ -39,9 +39,9 @@ public:
     /// One command on its way: the active pane, the document, the desktop.
     void OnCommand(int id);
 
-    CPane* ActivePane() const { return active; }
-    CLeftView& LeftView() const { return *left; }
-    COrrevaView& RightView() const { return *right; }
+    CPane* ActivePane() const { return m_active; }
+    CLeftView& LeftView() const { return *m_left; }
+    COrrevaView& RightView() const { return *m_right; }
 
 signals:
     void LanguageChosen(int language);
@@ -58,12 +58,12 @@ private:
     void UpdateViewStyles(QAction& action, int id);
     void RunDesktopCommand(int id);
 
-    COrrevaDoc& document;
-    const CThreadLocale& threadLocale;
-    std::unique_ptr<Ui::MainFrame> ui;
-    CLeftView* left = nullptr;
-    COrrevaView* right = nullptr;
-    CMyDialogBar* dialogBar = nullptr;
-    CPane* active = nullptr;
-    bool closing = false;
+    COrrevaDoc& m_document;
+    const CThreadLocale& m_threadLocale;
+    std::unique_ptr<Ui::MainFrame> m_ui;
+    CLeftView* m_left = nullptr;
+    COrrevaView* m_right = nullptr;
+    CMyDialogBar* m_dialogBar = nullptr;
+    CPane* m_active = nullptr;
+    bool m_closing = false;
 };

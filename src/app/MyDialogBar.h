@@ -25,6 +25,6 @@ public:
 private:
     void Show(const std::optional<SliderState>& state);
 
-    COrrevaDoc& document;
-    std::unique_ptr<Ui::MyDialogBar> ui;
+    COrrevaDoc& m_document;
+    std::unique_ptr<Ui::MyDialogBar> m_ui;
 };

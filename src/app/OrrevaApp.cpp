@@ -30,16 +30,16 @@ void OpenHelp(long data, unsigned command)
 
 COrrevaApp::COrrevaApp()
 {
-    SetAssertDesktop(&host);
+    SetAssertDesktop(&m_host);
     SetHelpHandler(OpenHelp);
 }
 
 COrrevaApp::~COrrevaApp()
 {
-    host.Attach(nullptr, nullptr);
-    frame.reset();
-    document.reset();
-    threadLocale.Set(kEnglish);
+    m_host.Attach(nullptr, nullptr);
+    m_frame.reset();
+    m_document.reset();
+    m_threadLocale.Set(kEnglish);
     SetHelpHandler(nullptr);
     SetAssertDesktop(nullptr);
 }
@@ -52,15 +52,15 @@ QSettings COrrevaApp::Profile()
 bool COrrevaApp::InitInstance(const QStringList& arguments)
 {
     ChooseLanguage();
-    document = std::make_unique<COrrevaDoc>(host);
-    frame = std::make_unique<CMainFrame>(*document, threadLocale);
-    QObject::connect(frame.get(), &CMainFrame::LanguageChosen, frame.get(),
+    m_document = std::make_unique<COrrevaDoc>(m_host);
+    m_frame = std::make_unique<CMainFrame>(*m_document, m_threadLocale);
+    QObject::connect(m_frame.get(), &CMainFrame::LanguageChosen, m_frame.get(),
                      [this](int language) { OnLanguage(language); });
-    host.Attach(frame.get(), document.get());
+    m_host.Attach(m_frame.get(), m_document.get());
     if (!ProcessShellCommand(arguments)) {
         return false;
     }
-    frame->showMaximized();
+    m_frame->showMaximized();
     return true;
 }
 
@@ -75,14 +75,14 @@ void COrrevaApp::ChooseLanguage()
         g_nLanguage = QLocale::system().language() == QLocale::German ? kGerman : kEnglish;
         profile.setValue(kLanguageEntry, g_nLanguage);
     }
-    threadLocale.Set(g_nLanguage);
+    m_threadLocale.Set(g_nLanguage);
 }
 
 bool COrrevaApp::ProcessShellCommand(const QStringList& arguments)
 {
     for (const QString& word : arguments) {
         if (!word.startsWith('-')) {
-            return document->OpenOldFormat(QFile::encodeName(word).constData());
+            return m_document->OpenOldFormat(QFile::encodeName(word).constData());
         }
     }
     return true;
@@ -90,8 +90,8 @@ bool COrrevaApp::ProcessShellCommand(const QStringList& arguments)
 
 void COrrevaApp::OnLanguage(int language)
 {
-    host.ShowMessage(language == kGerman ? "Beim nächsten Start wird Orreva Deutsch verwenden."_cp1252
-                                         : "Orreva will use English on it's next start.");
+    m_host.ShowMessage(language == kGerman ? "Beim nächsten Start wird Orreva Deutsch verwenden."_cp1252
+                                           : "Orreva will use English on it's next start.");
     Profile().setValue(kLanguageEntry, language);
-    threadLocale.Set(language);
+    m_threadLocale.Set(language);
 }

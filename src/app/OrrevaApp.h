@@ -26,10 +26,10 @@ public:
     /// on. Texts of the code and the menu on the screen change at the next start.
     void OnLanguage(int language);
     /// Whether dialogs are built in German at this moment.
-    bool IsThreadGerman() const { return threadLocale.IsGerman(); }
+    bool IsThreadGerman() const { return m_threadLocale.IsGerman(); }
 
-    CMainFrame& Frame() { return *frame; }
-    COrrevaDoc& Document() { return *document; }
+    CMainFrame& Frame() { return *m_frame; }
+    COrrevaDoc& Document() { return *m_document; }
 
     /// The program's settings: per user, below `VarnholtTelescope`.
     static QSettings Profile();
@@ -38,9 +38,9 @@ private:
     void ChooseLanguage();
     bool ProcessShellCommand(const QStringList& arguments);
 
-    CThreadLocale threadLocale;
-    CQtHost host;
-    HelpKey helpKey;
-    std::unique_ptr<COrrevaDoc> document;
-    std::unique_ptr<CMainFrame> frame;
+    CThreadLocale m_threadLocale;
+    CQtHost m_host;
+    HelpKey m_helpKey;
+    std::unique_ptr<COrrevaDoc> m_document;
+    std::unique_ptr<CMainFrame> m_frame;
 };

@@ -71,7 +71,7 @@ QStringList NameFilters(const char* pipes)
 /// Keeps the main window from the record while it lives.
 class FrozenFrame {
 public:
-    explicit FrozenFrame(CMainFrame* mainFrame) : frame(mainFrame) { Freeze(true); }
+    explicit FrozenFrame(CMainFrame* mainFrame) : m_frame(mainFrame) { Freeze(true); }
     ~FrozenFrame() { Freeze(false); }
     FrozenFrame(const FrozenFrame&) = delete;
     FrozenFrame& operator=(const FrozenFrame&) = delete;
@@ -79,27 +79,27 @@ public:
 private:
     void Freeze(bool frozen) const
     {
-        if (frame != nullptr) {
-            frame->Freeze(frozen);
+        if (m_frame != nullptr) {
+            m_frame->Freeze(frozen);
         }
     }
 
-    CMainFrame* frame;
+    CMainFrame* m_frame;
 };
 
 } // namespace
 
 void CQtHost::Attach(CMainFrame* mainFrame, COrrevaDoc* doc)
 {
-    frame = mainFrame;
-    document = doc;
+    m_frame = mainFrame;
+    m_document = doc;
 }
 
 QWidget* CQtHost::Owner() const
 {
     // The active window is none of them for a while after a box has closed.
     QWidget* const modal = QApplication::activeModalWidget();
-    return modal == nullptr && frame != nullptr && frame->isVisible() ? frame : modal;
+    return modal == nullptr && m_frame != nullptr && m_frame->isVisible() ? m_frame : modal;
 }
 
 bool CQtHost::AskYesNo(const char* text)
@@ -115,8 +115,8 @@ void CQtHost::ShowMessage(const char* text)
 
 void CQtHost::SetDocumentTitle(const char* path)
 {
-    if (frame != nullptr) {
-        frame->SetDocumentTitle(QFile::decodeName(path));
+    if (m_frame != nullptr) {
+        m_frame->SetDocumentTitle(QFile::decodeName(path));
     }
 }
 
@@ -126,8 +126,8 @@ void CQtHost::EndWait() { QApplication::restoreOverrideCursor(); }
 
 void CQtHost::UpdateAllViews()
 {
-    if (frame != nullptr) {
-        frame->UpdateAllViews();
+    if (m_frame != nullptr) {
+        m_frame->UpdateAllViews();
     }
 }
 
@@ -150,7 +150,7 @@ std::string CQtHost::AskPath(const FileDialog& mask)
 bool CQtHost::AskQuickNew(QuickNewTexts& texts)
 {
     // The record is reset and waits for its two numbers: who read it now would fix its defaults.
-    const FrozenFrame frozen(frame);
+    const FrozenFrame frozen(m_frame);
     CQuickNewDialog dialog(texts, Owner());
     if (dialog.exec() != QDialog::Accepted) {
         return false;
@@ -166,7 +166,7 @@ bool CQtHost::AskRaytracingSettings(std::uint8_t miss_in_grey)
 
 bool CQtHost::RunModal(Modal modal)
 {
-    return document != nullptr && RunModalDialog(modal, *document, Owner());
+    return m_document != nullptr && RunModalDialog(modal, *m_document, Owner());
 }
 
 AssertAnswer CQtHost::AskAssert(const char* title, const char* text)

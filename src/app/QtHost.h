@@ -36,6 +36,6 @@ public:
 private:
     QWidget* Owner() const;
 
-    CMainFrame* frame = nullptr;
-    COrrevaDoc* document = nullptr;
+    CMainFrame* m_frame = nullptr;
+    COrrevaDoc* m_document = nullptr;
 };

@@ -9,16 +9,16 @@ CThreadLocale::~CThreadLocale() { Set(kEnglish); }
 
 void CThreadLocale::Set(int language)
 {
-    translators.clear(); // a translator that goes takes itself off the application
-    german = language == kGerman;
-    if (!german) {
+    m_translators.clear(); // a translator that goes takes itself off the application
+    m_german = language == kGerman;
+    if (!m_german) {
         return;
     }
     const auto install = [this](const QString& name, const QString& folder) {
         auto translator = std::make_unique<QTranslator>();
         if (translator->load(name, folder)) {
             QApplication::installTranslator(translator.get());
-            translators.push_back(std::move(translator));
+            m_translators.push_back(std::move(translator));
         }
     };
     install("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath));

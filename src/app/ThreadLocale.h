@@ -15,9 +15,9 @@ public:
     CThreadLocale& operator=(const CThreadLocale&) = delete;
 
     void Set(int language);
-    bool IsGerman() const { return german; }
+    bool IsGerman() const { return m_german; }
 
 private:
-    std::vector<std::unique_ptr<QTranslator>> translators;
-    bool german = false;
+    std::vector<std::unique_ptr<QTranslator>> m_translators;
+    bool m_german = false;
 };

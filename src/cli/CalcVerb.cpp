@@ -12,24 +12,24 @@ namespace {
 /// One answer a line; remembers whether all of them were numbers.
 class Answers {
 public:
-    explicit Answers(const std::string& path) : output(path) {}
+    explicit Answers(const std::string& path) : m_output(path) {}
 
     bool Give(const std::string& expression)
     {
         const CalculatorAnswer answer = Calculate(Cp1252FromUtf8(expression));
-        numbers = numbers && answer.bNumber;
-        return output.Write(Utf8FromCp1252(answer.text) + '\n') && output.Flush();
+        m_numbers = m_numbers && answer.bNumber;
+        return m_output.Write(Utf8FromCp1252(answer.text) + '\n') && m_output.Flush();
     }
 
     int Finish()
     {
-        const int status = output.Finish();
-        return numbers ? status : kFailed;
+        const int status = m_output.Finish();
+        return m_numbers ? status : kFailed;
     }
 
 private:
-    Output output;
-    bool numbers = true;
+    Output m_output;
+    bool m_numbers = true;
 };
 
 /// The next line of standard input without its end; nothing behind the last. Of a line that is longer than

@@ -2,30 +2,31 @@
 
 #include <cstdio>
 
-Output::Output(const std::string& outputPath) : path(outputPath)
+Output::Output(const std::string& outputPath) : m_path(outputPath)
 {
-    if (!path.empty()) {
-        file.emplace(path.c_str());
+    if (!m_path.empty()) {
+        m_file.emplace(m_path.c_str());
     }
 }
 
 bool Output::Write(std::string_view bytes)
 {
-    good = good &&
-           (file ? file->Write(bytes) : std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size());
-    return good;
+    m_good = m_good && (m_file ? m_file->Write(bytes)
+                               : std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size());
+    return m_good;
 }
 
 bool Output::Flush()
 {
-    good = good && (file || std::fflush(stdout) == 0);
-    return good;
+    m_good = m_good && (m_file || std::fflush(stdout) == 0);
+    return m_good;
 }
 
 int Output::Finish()
 {
-    good = good && (file ? file->Commit() : std::fflush(stdout) == 0);
-    return good ? kDone : Fail("cannot write " + (path.empty() ? std::string("to standard output") : path));
+    m_good = m_good && (m_file ? m_file->Commit() : std::fflush(stdout) == 0);
+    return m_good ? kDone
+                  : Fail("cannot write " + (m_path.empty() ? std::string("to standard output") : m_path));
 }
 
 int WriteOutput(const std::string& path, std::string_view bytes)

@@ -24,9 +24,9 @@ public:
     int Finish();
 
 private:
-    std::string path;
-    std::optional<FileReplacement> file;
-    bool good = true;
+    std::string m_path;
+    std::optional<FileReplacement> m_file;
+    bool m_good = true;
 };
 
 /// All bytes at once. The exit status.

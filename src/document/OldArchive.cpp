@@ -35,11 +35,11 @@ std::string NarrowText(std::string_view wide)
 
 std::optional<std::string_view> OldArchive::Take(std::uint64_t count)
 {
-    if (count > rest.size()) {
+    if (count > m_rest.size()) {
         return std::nullopt;
     }
-    const std::string_view taken = rest.substr(0, count);
-    rest.remove_prefix(count);
+    const std::string_view taken = m_rest.substr(0, count);
+    m_rest.remove_prefix(count);
     return taken;
 }
 
@@ -69,7 +69,7 @@ std::optional<std::string> OldArchive::TakeText()
     if (width == 2) {
         length = TakeLength();
     }
-    if (!length || *length > rest.size() / width) {
+    if (!length || *length > m_rest.size() / width) {
         return std::nullopt;
     }
     const std::string_view bytes = *Take(*length * width);

@@ -11,7 +11,7 @@
 /// others own. A read past their end stores nothing and gives false; the archive is of no use after it.
 class OldArchive {
 public:
-    explicit OldArchive(std::string_view bytes) : rest(bytes) {}
+    explicit OldArchive(std::string_view bytes) : m_rest(bytes) {}
 
     bool Read(std::uint32_t& value);
     bool Read(std::int32_t& value);
@@ -27,5 +27,5 @@ private:
     std::optional<std::uint64_t> TakeLength();
     std::optional<std::string> TakeText();
 
-    std::string_view rest;
+    std::string_view m_rest;
 };

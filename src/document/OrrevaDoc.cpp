@@ -40,7 +40,7 @@ int g_nWizard = 0;
 // The records clear themselves while the document is being built. It is not the current one then, so that
 // nothing is asked of its host.
 COrrevaDoc::COrrevaDoc(DocumentHost& desktop)
-    : main_record(this, &DesignFiles()), scratch_record(this, &DesignFiles()), host(desktop)
+    : main_record(this, &DesignFiles()), scratch_record(this, &DesignFiles()), m_host(desktop)
 {}
 
 COrrevaDoc::~COrrevaDoc()
@@ -53,7 +53,7 @@ COrrevaDoc::~COrrevaDoc()
 void COrrevaDoc::SetDocumentTitle(const char* path)
 {
     if (g_pCurrentDocument == this) {
-        host.SetDocumentTitle(path);
+        m_host.SetDocumentTitle(path);
     }
 }
 
@@ -94,7 +94,7 @@ void COrrevaDoc::OnFileNewQuick()
 {
     active_record->Reset();
     QuickNewTexts texts = kQuickNewTexts;
-    if (!host.AskQuickNew(texts)) {
+    if (!m_host.AskQuickNew(texts)) {
         DropTelescope();
         return;
     }
@@ -107,7 +107,7 @@ void COrrevaDoc::OnFileNewQuick()
 
 void COrrevaDoc::OnFileNewDetailed()
 {
-    if (!host.OnNewDocument()) {
+    if (!m_host.OnNewDocument()) {
         return;
     }
     g_nWizard = 1;
@@ -115,7 +115,7 @@ void COrrevaDoc::OnFileNewDetailed()
     field_diameter_100 = 10.0;
     field_angle_100 = FieldAngle(active_record->GetFocalLength(), 10.0);
     Recalculate();
-    if (!host.RunModal(Modal::TelescopeSheet)) {
+    if (!m_host.RunModal(Modal::TelescopeSheet)) {
         DropTelescope();
         return;
     }
@@ -125,7 +125,7 @@ void COrrevaDoc::OnFileNewDetailed()
 
 void COrrevaDoc::OnFileOpen()
 {
-    const std::string path = host.AskPath(kOpenTelescope);
+    const std::string path = m_host.AskPath(kOpenTelescope);
     if (path.empty()) {
         return;
     }
@@ -139,7 +139,7 @@ void COrrevaDoc::OnFileSave() { active_record->Save(); }
 
 void COrrevaDoc::OnFileSaveAs()
 {
-    const std::string path = host.AskPath(kSaveTelescope);
+    const std::string path = m_host.AskPath(kSaveTelescope);
     if (!path.empty()) {
         active_record->SaveAs(path.c_str());
     }
@@ -147,7 +147,7 @@ void COrrevaDoc::OnFileSaveAs()
 
 void COrrevaDoc::OnImportOld()
 {
-    const std::string path = host.AskPath(OldFormatMask(g_nLanguage));
+    const std::string path = m_host.AskPath(OldFormatMask(g_nLanguage));
     if (!path.empty()) {
         OpenOldFormat(path.c_str());
     }
@@ -155,7 +155,7 @@ void COrrevaDoc::OnImportOld()
 
 bool COrrevaDoc::Serialize(OldArchive& archive)
 {
-    if (!ImportOld(archive, *active_record, host)) {
+    if (!ImportOld(archive, *active_record, m_host)) {
         return false;
     }
     Recalculate();
@@ -167,16 +167,16 @@ bool COrrevaDoc::OpenOldFormat(const char* path)
 {
     const auto bytes = ReadFileBytes(path, kLargestOldFile);
     if (!bytes) {
-        Tell(host, kNotOpened, path);
+        Tell(m_host, kNotOpened, path);
         return false;
     }
     OldArchive archive(*bytes);
     if (!Serialize(archive)) {
-        Tell(host, kDamaged, path);
+        Tell(m_host, kDamaged, path);
         UpdateAllViews(); // the record may hold a part of the file now
         return false;
     }
-    host.SetDocumentTitle(std::filesystem::path(path).filename().c_str());
+    m_host.SetDocumentTitle(std::filesystem::path(path).filename().c_str());
     return true;
 }
 
@@ -192,20 +192,20 @@ void COrrevaDoc::OnExportFta() { WriteExport(kExportFta, FtaExport(*active_recor
 void COrrevaDoc::WriteExport(const FileDialog& dialog, const std::optional<std::string>& text,
                              const char* error)
 {
-    const std::string path = host.AskPath(dialog);
+    const std::string path = m_host.AskPath(dialog);
     if (!path.empty() && !(text && ReplaceFile(path.c_str(), *text))) {
-        host.ShowMessage(error);
+        m_host.ShowMessage(error);
     }
 }
 
 void COrrevaDoc::OnProperties()
 {
     if (!HasFile()) {
-        host.ShowMessage("Bitte zuächst 'Datei/Neu' oder 'Datei/Öffnen' anklicken."_cp1252);
+        m_host.ShowMessage("Bitte zuächst 'Datei/Neu' oder 'Datei/Öffnen' anklicken."_cp1252);
         return;
     }
     g_nWizard = 0;
-    if (host.RunModal(Modal::TelescopeSheet)) {
+    if (m_host.RunModal(Modal::TelescopeSheet)) {
         Recalculate();
     }
 }
@@ -217,19 +217,19 @@ void COrrevaDoc::OnTubeProperties()
     LibString line;
     line.Format("Vorher im Doc: %d", active_record->GetTubeType());
     LogText(line);
-    if (host.RunModal(Modal::TubeSheet)) {
+    if (m_host.RunModal(Modal::TubeSheet)) {
         scratch_record.CopyTo(main_record);
     }
     active_record = &main_record;
     Recalculate();
 }
 
-void COrrevaDoc::OnCentreMarks() { host.ShowMessage(CentreMarksMessage(*active_record).c_str()); }
+void COrrevaDoc::OnCentreMarks() { m_host.ShowMessage(CentreMarksMessage(*active_record).c_str()); }
 
 void COrrevaDoc::OnRaytracingSettings()
 {
     // Kept: OK is a toggle, whichever button the user chose.
-    if (host.AskRaytracingSettings(miss_in_grey)) {
+    if (m_host.AskRaytracingSettings(miss_in_grey)) {
         miss_in_grey = miss_in_grey == 0 ? 1 : 0;
         UpdateAllViews();
     }

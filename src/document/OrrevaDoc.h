@@ -63,10 +63,10 @@ public:
     /// The one operation that every change ends in: the field figures, the mirror's positions, `modified`,
     /// and a repaint of all views.
     void Recalculate();
-    void UpdateAllViews() { host.UpdateAllViews(); }
+    void UpdateAllViews() { m_host.UpdateAllViews(); }
     /// Whether a telescope is loaded.
     bool HasFile() const { return active_record->HasFile(); }
-    DocumentHost& Host() { return host; }
+    DocumentHost& Host() { return m_host; }
 
     COrrevaData* active_record = &main_record; ///< the scratch record while the tube properties run
     COrrevaData main_record;
@@ -83,13 +83,13 @@ private:
     void DropTelescope();
     void WriteExport(const FileDialog& dialog, const std::optional<std::string>& text, const char* error);
 
-    bool AskYesNo(const char* text) override { return host.AskYesNo(text); }
-    void ShowMessage(const char* text) override { host.ShowMessage(text); }
+    bool AskYesNo(const char* text) override { return m_host.AskYesNo(text); }
+    void ShowMessage(const char* text) override { m_host.ShowMessage(text); }
     void SetDocumentTitle(const char* path) override;
-    void BeginWait() override { host.BeginWait(); }
-    void EndWait() override { host.EndWait(); }
+    void BeginWait() override { m_host.BeginWait(); }
+    void EndWait() override { m_host.EndWait(); }
 
-    DocumentHost& host;
+    DocumentHost& m_host;
 };
 
 /// The current document: the only one whose records set the title bar. The cross-section view stores it at

@@ -49,7 +49,7 @@ struct StoreText {
 /// Opens and closes elements so that the file's nesting follows the keys.
 class ElementWriter {
 public:
-    explicit ElementWriter(std::string& bytes) : out(bytes) { Open("telescope"); }
+    explicit ElementWriter(std::string& bytes) : m_out(bytes) { Open("telescope"); }
 
     void Write(std::string_view key, const std::string& value)
     {
@@ -59,7 +59,7 @@ public:
             key.remove_prefix(slash + 1);
         }
         std::size_t common = 0;
-        while (common < open.size() && common < path.size() && open[common] == path[common]) {
+        while (common < m_open.size() && common < path.size() && m_open[common] == path[common]) {
             ++common;
         }
         CloseTo(common);
@@ -68,19 +68,19 @@ public:
         }
         Indent();
         Tag("<", key);
-        out += value;
+        m_out += value;
         Tag("</", key);
-        out += '\n';
+        m_out += '\n';
     }
 
     void CloseTo(std::size_t depth)
     {
-        while (open.size() > depth) {
-            const std::string_view name = open.back();
-            open.pop_back();
+        while (m_open.size() > depth) {
+            const std::string_view name = m_open.back();
+            m_open.pop_back();
             Indent();
             Tag("</", name);
-            out += '\n';
+            m_out += '\n';
         }
     }
 
@@ -89,19 +89,19 @@ private:
     {
         Indent();
         Tag("<", name);
-        out += '\n';
-        open.push_back(name);
+        m_out += '\n';
+        m_open.push_back(name);
     }
-    void Indent() { out.append(2 * open.size(), ' '); }
+    void Indent() { m_out.append(2 * m_open.size(), ' '); }
     void Tag(const char* bracket, std::string_view name)
     {
-        out += bracket;
-        out += name;
-        out += '>';
+        m_out += bracket;
+        m_out += name;
+        m_out += '>';
     }
 
-    std::string& out;
-    std::vector<std::string_view> open;
+    std::string& m_out;
+    std::vector<std::string_view> m_open;
 };
 
 class TelescopeFiles : public RecordFiles {

@@ -28,10 +28,10 @@ struct Measure {
 class PolygonPainter {
 public:
     PolygonPainter(Surface& surface, const PolygonInput& input)
-        : m_surface(surface), m_input(input), m(MeasurePolygon(input)),
+        : m_surface(surface), m_input(input), m_m(MeasurePolygon(input)),
           m_nWidth(surface.Width() - 2 * kMargin),
           m_nHeight(surface.Height() - 2 * kMargin), m_centre{surface.Width() / 2.0, surface.Height() / 2.0},
-          m_dScale(std::min(m_nWidth, m_nHeight) / (2 * m.dOuterRadius)),
+          m_dScale(std::min(m_nWidth, m_nHeight) / (2 * m_m.dOuterRadius)),
           m_labels(surface.Width(), surface.Height(), kLabelFont)
     {}
 
@@ -70,15 +70,15 @@ private:
 
     void PaintSides()
     {
-        for (double a = -kPi; a < kPi; a += m.dAngle) {
-            GreyLine(m_centre, At(a, m.dInnerRadius));
-            GreyLine(At(a, m.dInnerRadius), At(a + m.dAngle, m.dInnerRadius));
-            GreyLine(At(a, m.dOuterRadius), At(a + m.dAngle, m.dOuterRadius));
+        for (double a = -kPi; a < kPi; a += m_m.dAngle) {
+            GreyLine(m_centre, At(a, m_m.dInnerRadius));
+            GreyLine(At(a, m_m.dInnerRadius), At(a + m_m.dAngle, m_m.dInnerRadius));
+            GreyLine(At(a, m_m.dOuterRadius), At(a + m_m.dAngle, m_m.dOuterRadius));
         }
     }
 
     /// The measures stand around the polygon by a counter that runs from 0 to 99.
-    double Direction(std::int32_t nCounter) const { return nCounter / (99 / m.nSides) * m.dAngle - kPi; }
+    double Direction(std::int32_t nCounter) const { return nCounter / (99 / m_m.nSides) * m_m.dAngle - kPi; }
 
     Measure Radial(std::int32_t nCounter, double dFrom, double dTo, double dShown) const
     {
@@ -91,7 +91,7 @@ private:
     {
         const double a = Direction(nCounter);
         const Point from = At(a, dCorner);
-        const Point to = At(a + m.dAngle, dCorner);
+        const Point to = At(a + m_m.dAngle, dCorner);
         const double dLength = std::hypot(to.x - from.x, to.y - from.y);
         const double dPart = dLength > 0 ? dOver * m_dScale / dLength : 0;
         const Point over{(to.x - from.x) * dPart, (to.y - from.y) * dPart};
@@ -104,15 +104,15 @@ private:
         const double dRadius = m_input.dDiameter / 2;
         const double a = Direction(18);
         return {
-            Radial(0, 0, m.dInnerRadius, m.dInnerRadius),
-            {At(a, m.dInnerRadius), At(a + m.dAngle, m.dInnerRadius),
-             FormatText("%0.2f°"_cp1252, 360.0 / m.nSides), true},
-            Radial(19, dRadius, m.dInnerRadius, m.dInnerRadius - dRadius),
-            Side(22, m.dInnerRadius, 0, m.dInnerSide),
-            Side(40, m.dOuterRadius, 0, m.dOuterSide),
-            Radial(60, m.dInnerRadius, m.dOuterRadius, m.dCornerWall),
+            Radial(0, 0, m_m.dInnerRadius, m_m.dInnerRadius),
+            {At(a, m_m.dInnerRadius), At(a + m_m.dAngle, m_m.dInnerRadius),
+             FormatText("%0.2f°"_cp1252, 360.0 / m_m.nSides), true},
+            Radial(19, dRadius, m_m.dInnerRadius, m_m.dInnerRadius - dRadius),
+            Side(22, m_m.dInnerRadius, 0, m_m.dInnerSide),
+            Side(40, m_m.dOuterRadius, 0, m_m.dOuterSide),
+            Radial(60, m_m.dInnerRadius, m_m.dOuterRadius, m_m.dCornerWall),
             Radial(80, 0, dRadius, dRadius),
-            Side(88, m.dInnerRadius, m.dOverhang, m.dBoard),
+            Side(88, m_m.dInnerRadius, m_m.dOverhang, m_m.dBoard),
         };
     }
 
@@ -142,8 +142,9 @@ private:
     {
         // The two parts of the angle differ: kept.
         const double a = Direction(18);
-        const double r = m.dInnerRadius / 3.5 * m_dScale;
-        return {m_centre.x + std::sin(m.dAngle / 2 + a) * r, m_centre.y + std::cos(m.dAngle / 2.8 + a) * r};
+        const double r = m_m.dInnerRadius / 3.5 * m_dScale;
+        return {m_centre.x + std::sin(m_m.dAngle / 2 + a) * r,
+                m_centre.y + std::cos(m_m.dAngle / 2.8 + a) * r};
     }
 
     void PaintMeasure(const Measure& measure)
@@ -168,7 +169,7 @@ private:
 
     Surface& m_surface;
     PolygonInput m_input;
-    PolygonMeasures m;
+    PolygonMeasures m_m;
     std::int32_t m_nWidth;
     std::int32_t m_nHeight;
     Point m_centre;

@@ -56,7 +56,7 @@ ScaleSteps StepsFor(double tubeLength)
 class SectionPainter {
 public:
     SectionPainter(Surface& window, const SectionMapping& mapping, COrrevaData& telescope, bool show_offset)
-        : surface(window), map(mapping), record(telescope), g(BuildGeometry(telescope, show_offset))
+        : m_surface(window), m_map(mapping), m_record(telescope), m_g(BuildGeometry(telescope, show_offset))
     {}
 
     void PaintTube();
@@ -72,57 +72,57 @@ public:
 private:
     void Bar(double x0, double y0, double x1, double y1, Colour colour)
     {
-        surface.FillRect(map.WorldToScreen({x0, y0}, {x1, y1}), colour);
+        m_surface.FillRect(m_map.WorldToScreen({x0, y0}, {x1, y1}), colour);
     }
     void Line(double x0, double y0, double x1, double y1, Colour colour)
     {
-        surface.Line(map.WorldToScreen(x0, y0), map.WorldToScreen(x1, y1), colour);
+        m_surface.Line(m_map.WorldToScreen(x0, y0), m_map.WorldToScreen(x1, y1), colour);
     }
     void Quad(const std::array<Point, 4>& corners, Colour colour);
     void Tick(double x, double y, std::int32_t i, std::int32_t major);
 
-    Surface& surface;
-    const SectionMapping& map;
-    COrrevaData& record;
-    ScopeGeometry g;
+    Surface& m_surface;
+    const SectionMapping& m_map;
+    COrrevaData& m_record;
+    ScopeGeometry m_g;
 };
 
 void SectionPainter::Quad(const std::array<Point, 4>& corners, Colour colour)
 {
     std::array<Pixel, 4> pixels;
     for (std::size_t i = 0; i < corners.size(); ++i) {
-        pixels[i] = map.WorldToScreen(corners[i].x, corners[i].y);
+        pixels[i] = m_map.WorldToScreen(corners[i].x, corners[i].y);
     }
-    surface.Polygon(pixels, colour, colour);
+    m_surface.Polygon(pixels, colour, colour);
 }
 
 void SectionPainter::PaintTube()
 {
-    const double T = record.GetThicknessHat();
-    const double rear = g.frontX + g.tubeLength;
-    const double bottom = g.top + g.tubeWidth;
-    Bar(g.frontX, g.top, rear, bottom, kWhite);
+    const double T = m_record.GetThicknessHat();
+    const double rear = m_g.frontX + m_g.tubeLength;
+    const double bottom = m_g.top + m_g.tubeWidth;
+    Bar(m_g.frontX, m_g.top, rear, bottom, kWhite);
     // The walls stand outside the tube's width, so the tube looks two walls wider than it is. Kept so.
-    Bar(g.frontX, g.top - T, rear, g.top, kDark);
-    Bar(g.frontX, bottom, rear, bottom + T, kDark);
+    Bar(m_g.frontX, m_g.top - T, rear, m_g.top, kDark);
+    Bar(m_g.frontX, bottom, rear, bottom + T, kDark);
 }
 
 void SectionPainter::PaintFocuser(bool extended)
 {
-    const double cx = g.focuserX;
-    const double half = record.GetFocuserDiameter() / 2;
-    const double base = g.top - record.GetFocuserHeight();
-    Bar(cx - half, base, cx + half, g.top, kWhite);
-    const std::int32_t type = record.GetFocuserType();
+    const double cx = m_g.focuserX;
+    const double half = m_record.GetFocuserDiameter() / 2;
+    const double base = m_g.top - m_record.GetFocuserHeight();
+    Bar(cx - half, base, cx + half, m_g.top, kWhite);
+    const std::int32_t type = m_record.GetFocuserType();
     if (type != 0 && type != 2) {
         return;
     }
-    Bar(cx - half - 10, base, cx - half - 6, g.top, kDark);
-    Bar(cx + half + 6, base, cx + half + 10, g.top, kDark);
+    Bar(cx - half - 10, base, cx - half - 6, m_g.top, kDark);
+    Bar(cx + half + 6, base, cx + half + 10, m_g.top, kDark);
     double y1 = base;
-    double y2 = y1 + record.GetOazLength();
+    double y2 = y1 + m_record.GetOazLength();
     if (extended) {
-        const double travel = record.GetOazTravel();
+        const double travel = m_record.GetOazTravel();
         y1 -= travel;
         y2 -= travel;
     }
@@ -132,18 +132,18 @@ void SectionPainter::PaintFocuser(bool extended)
 
 void SectionPainter::PaintFocalPlane()
 {
-    const double cx = g.focuserX;
-    const double half = record.GetFocuserDiameter() / 2;
+    const double cx = m_g.focuserX;
+    const double half = m_record.GetFocuserDiameter() / 2;
     Bar(cx - half, -2, cx + half, 2, kOlive);
     // The fully lit field, by a formula of the picture's own: without the travel of a drawtube.
-    const double spare = record.GetFocuserSpare();
-    const double Hf = record.GetFocuserHeight();
-    const double I = record.GetInsideDiameterHat();
-    const double T = record.GetThicknessHat();
+    const double spare = m_record.GetFocuserSpare();
+    const double Hf = m_record.GetFocuserHeight();
+    const double I = m_record.GetInsideDiameterHat();
+    const double T = m_record.GetThicknessHat();
     const double Lf = spare + Hf + I / 2 + T;
-    const double S = record.GetSecondaryDiameter();
-    const double D = record.GetMirrorDiameter();
-    const double f = record.GetFocalLength();
+    const double S = m_record.GetSecondaryDiameter();
+    const double D = m_record.GetMirrorDiameter();
+    const double f = m_record.GetFocalLength();
     const double w = S - Lf * D / f;
     if (w > 0) {
         Bar(cx - w / 2, -2, cx + w / 2, 2, kYellow);
@@ -152,14 +152,14 @@ void SectionPainter::PaintFocalPlane()
 
 void SectionPainter::PaintRays(const ViewSwitches& switches, Point pointer, int language)
 {
-    const RayPicture rays = TraceActiveSet(g, record, switches, pointer);
+    const RayPicture rays = TraceActiveSet(m_g, m_record, switches, pointer);
     for (const RaySegment& segment : rays.segments) {
         Line(segment.x0, segment.y0, segment.x1, segment.y1, segment.colour == RayHit ? kYellow : kGrey);
     }
     if (rays.status) {
         constexpr Pixel kStatus{4, 0};
-        surface.Text({kStatus.x - map.scroll.x, kStatus.y - map.scroll.y},
-                     FormatParallelStatus(language, *rays.status), kTextFont, kWhite);
+        m_surface.Text({kStatus.x - m_map.scroll.x, kStatus.y - m_map.scroll.y},
+                       FormatParallelStatus(language, *rays.status), kTextFont, kWhite);
     }
 }
 
@@ -167,13 +167,13 @@ void SectionPainter::PaintScale()
 {
     // A tube that is longer than any has no more ticks than this.
     constexpr int kMostTicks = 10000;
-    const double ys = g.top + g.tubeWidth + TruncToInt32(record.GetThicknessHat()) + 60;
-    const double rear = g.frontX + g.tubeLength;
-    Line(g.frontX, ys, rear, ys, kWhite);
-    const ScaleSteps steps = StepsFor(g.tubeLength);
+    const double ys = m_g.top + m_g.tubeWidth + TruncToInt32(m_record.GetThicknessHat()) + 60;
+    const double rear = m_g.frontX + m_g.tubeLength;
+    Line(m_g.frontX, ys, rear, ys, kWhite);
+    const ScaleSteps steps = StepsFor(m_g.tubeLength);
     for (int tick = 0; tick < kMostTicks; ++tick) {
         const std::int32_t i = tick * steps.step;
-        if (!(g.frontX < rear - i)) {
+        if (!(m_g.frontX < rear - i)) {
             break;
         }
         Tick(rear - i, ys, i, steps.major);
@@ -189,41 +189,41 @@ void SectionPainter::Tick(double x, double y, std::int32_t i, std::int32_t major
     Line(x, y - 15, x, y + 15, kWhite);
     LibString number;
     number.Format("%d", i);
-    surface.Text(map.WorldToScreen(x, TruncToInt32(y - 2)), number.GetText(), kSmallFont, kWhite);
+    m_surface.Text(m_map.WorldToScreen(x, TruncToInt32(y - 2)), number.GetText(), kSmallFont, kWhite);
 }
 
 void SectionPainter::PaintSecondary()
 {
-    Quad({{{g.secondaryLeft, g.secondaryTop},
-           {g.secondaryRight, g.secondaryBottom},
-           {g.secondaryRight - 4, g.secondaryBottom},
-           {g.secondaryLeft - 4, g.secondaryTop}}},
+    Quad({{{m_g.secondaryLeft, m_g.secondaryTop},
+           {m_g.secondaryRight, m_g.secondaryBottom},
+           {m_g.secondaryRight - 4, m_g.secondaryBottom},
+           {m_g.secondaryLeft - 4, m_g.secondaryTop}}},
          kGreen);
-    const double back = g.secondaryRight - 8 - 1.5 * record.GetSecondaryDiameter();
-    Quad({{{g.secondaryLeft - 8, g.secondaryTop},
-           {g.secondaryRight - 8, g.secondaryBottom},
-           {back, g.secondaryBottom},
-           {back, g.secondaryTop}}},
+    const double back = m_g.secondaryRight - 8 - 1.5 * m_record.GetSecondaryDiameter();
+    Quad({{{m_g.secondaryLeft - 8, m_g.secondaryTop},
+           {m_g.secondaryRight - 8, m_g.secondaryBottom},
+           {back, m_g.secondaryBottom},
+           {back, m_g.secondaryTop}}},
          kBlack);
 }
 
 void SectionPainter::PaintNoOffset(int language)
 {
-    surface.Text(map.WorldToScreen(g.secondaryLeft + 10, g.secondaryTop), kNoOffset.In(language), kTextFont,
-                 kRed);
+    m_surface.Text(m_map.WorldToScreen(m_g.secondaryLeft + 10, m_g.secondaryTop), kNoOffset.In(language),
+                   kTextFont, kRed);
 }
 
 void SectionPainter::PaintPrimary()
 {
-    Bar(g.mirrorX, g.mirrorTop, g.mirrorX + record.GetMirrorThickness(), g.mirrorBottom, kGreen);
+    Bar(m_g.mirrorX, m_g.mirrorTop, m_g.mirrorX + m_record.GetMirrorThickness(), m_g.mirrorBottom, kGreen);
 }
 
 void SectionPainter::PaintBoxAndCage()
 {
-    const double rear = g.frontX + g.tubeLength;
-    const double bottom = g.top + g.tubeWidth;
-    Bar(rear - record.GetHeightBox(), g.top, rear, bottom, kDark);
-    Bar(g.frontX, g.top, g.frontX + record.GetHeightHat(), bottom, kDark);
+    const double rear = m_g.frontX + m_g.tubeLength;
+    const double bottom = m_g.top + m_g.tubeWidth;
+    Bar(rear - m_record.GetHeightBox(), m_g.top, rear, bottom, kDark);
+    Bar(m_g.frontX, m_g.top, m_g.frontX + m_record.GetHeightHat(), bottom, kDark);
 }
 
 Point WorldPointer(const SectionPointer& pointer, const SectionMapping& map)

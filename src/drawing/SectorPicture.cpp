@@ -18,16 +18,16 @@ class SectorPainter {
 public:
     SectorPainter(Surface& surface, const SectorInput& input)
         : m_surface(surface), m_input(input),
-          m(MeasureSector(input)), m_centre{surface.Width() / 2.0, surface.Height() / 2.0},
-          m_dRadius(m.dRadius *
+          m_m(MeasureSector(input)), m_centre{surface.Width() / 2.0, surface.Height() / 2.0},
+          m_dRadius(m_m.dRadius *
                     ((std::min(surface.Width(), surface.Height()) - 2 * kMargin) / input.dDiameter)),
-          m_left(At(-m.dHalfAngle, m_dRadius)), m_right(At(m.dHalfAngle, m_dRadius)),
+          m_left(At(-m_m.dHalfAngle, m_dRadius)), m_right(At(m_m.dHalfAngle, m_dRadius)),
           m_labels(surface.Width(), surface.Height(), kLabelFont)
     {}
 
     void Paint()
     {
-        const Point chordMiddle = At(0, std::cos(m.dHalfAngle) * m_dRadius);
+        const Point chordMiddle = At(0, std::cos(m_m.dHalfAngle) * m_dRadius);
         const Point bottom = At(0, m_dRadius);
         const PixelRect circle = Box(m_dRadius);
         m_surface.Ellipse(circle, kGrey, 1);
@@ -39,9 +39,9 @@ public:
         Arc(circle, m_dRadius);
         Arc(Box(m_dRadius / 4), m_dRadius / 4);
 
-        Label(m_labels.Beside(m_left, m_right, LengthText(m.dChord)), LengthText(m.dChord));
-        Label(m_labels.Halfway(bottom, chordMiddle, LengthText(m.dSagitta)), LengthText(m.dSagitta));
-        Label(m_labels.Beside(m_centre, m_left, LengthText(m.dRadius)), LengthText(m.dRadius));
+        Label(m_labels.Beside(m_left, m_right, LengthText(m_m.dChord)), LengthText(m_m.dChord));
+        Label(m_labels.Halfway(bottom, chordMiddle, LengthText(m_m.dSagitta)), LengthText(m_m.dSagitta));
+        Label(m_labels.Beside(m_centre, m_left, LengthText(m_m.dRadius)), LengthText(m_m.dRadius));
         const std::string angle = FormatText("%0.2f°"_cp1252, m_input.dValue);
         Label(m_labels.Near(At(0, m_dRadius / 4 + kLabelFont.height), angle), angle);
     }
@@ -84,7 +84,7 @@ private:
 
     Surface& m_surface;
     SectorInput m_input;
-    SectorMeasures m;
+    SectorMeasures m_m;
     Point m_centre;
     double m_dRadius; ///< of the circle, in pixels
     Point m_left;     ///< ends of the chord

@@ -81,40 +81,40 @@ std::int32_t PixelSize(std::int32_t lineHeight)
 } // namespace
 
 PainterSurface::PainterSurface(QPainter& device, std::int32_t surfaceWidth, std::int32_t surfaceHeight)
-    : painter(device), width(surfaceWidth), height(surfaceHeight),
-      isRaster(device.paintEngine() != nullptr && device.paintEngine()->type() == QPaintEngine::Raster)
+    : m_painter(device), m_width(surfaceWidth), m_height(surfaceHeight),
+      m_isRaster(device.paintEngine() != nullptr && device.paintEngine()->type() == QPaintEngine::Raster)
 {
-    painter.setRenderHint(QPainter::Antialiasing, false);
+    m_painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void PainterSurface::FillRect(const PixelRect& rect, Colour colour)
 {
     const std::int32_t left = std::max(rect.left, 0);
     const std::int32_t top = std::max(rect.top, 0);
-    const std::int32_t right = std::min(rect.right, width);
-    const std::int32_t bottom = std::min(rect.bottom, height);
+    const std::int32_t right = std::min(rect.right, m_width);
+    const std::int32_t bottom = std::min(rect.bottom, m_height);
     if (left < right && top < bottom) {
-        painter.fillRect(QRect(left, top, right - left, bottom - top), ToColor(colour));
+        m_painter.fillRect(QRect(left, top, right - left, bottom - top), ToColor(colour));
     }
 }
 
 void PainterSurface::PaintRuns(Colour colour)
 {
     std::vector<QRect> rects;
-    rects.reserve(runs.size());
-    for (const PixelRect& run : runs) {
+    rects.reserve(m_runs.size());
+    for (const PixelRect& run : m_runs) {
         rects.emplace_back(run.left, run.top, run.right - run.left, run.bottom - run.top);
     }
-    runs.clear();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ToColor(colour));
-    painter.drawRects(rects.data(), static_cast<int>(rects.size()));
+    m_runs.clear();
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(ToColor(colour));
+    m_painter.drawRects(rects.data(), static_cast<int>(rects.size()));
 }
 
 void PainterSurface::Line(Pixel from, Pixel to, Colour colour)
 {
-    if (isRaster) {
-        AppendLine(from, to, Clip(), runs);
+    if (m_isRaster) {
+        AppendLine(from, to, Clip(), m_runs);
         PaintRuns(colour);
     } else {
         VectorLine(from, to, colour);
@@ -127,7 +127,7 @@ void PainterSurface::VectorLine(Pixel from, Pixel to, Colour colour)
     const QPointF start(from.x + 0.5, from.y + 0.5);
     const QPointF way(static_cast<double>(to.x) - from.x, static_cast<double>(to.y) - from.y);
     const double steps[] = {-way.x(), way.x(), -way.y(), way.y()};
-    const double rooms[] = {start.x(), width - start.x(), start.y(), height - start.y()};
+    const double rooms[] = {start.x(), m_width - start.x(), start.y(), m_height - start.y()};
     double enter = 0.0;
     double leave = 1.0;
     for (int side = 0; side < 4; ++side) {
@@ -140,21 +140,21 @@ void PainterSurface::VectorLine(Pixel from, Pixel to, Colour colour)
         }
     }
     if (enter <= leave) {
-        painter.setPen(QPen(ToColor(colour), 1));
-        painter.drawLine(QLineF(start + way * enter, start + way * leave));
+        m_painter.setPen(QPen(ToColor(colour), 1));
+        m_painter.drawLine(QLineF(start + way * enter, start + way * leave));
     }
 }
 
 void PainterSurface::Polygon(std::span<const Pixel> points, Colour pen, Colour brush)
 {
-    if (!isRaster) {
+    if (!m_isRaster) {
         VectorPolygon(points, pen, brush);
         return;
     }
-    AppendPolygon(points, Clip(), runs);
+    AppendPolygon(points, Clip(), m_runs);
     PaintRuns(brush);
     for (std::size_t i = 0; i < points.size(); ++i) {
-        AppendLine(points[i], points[(i + 1) % points.size()], Clip(), runs);
+        AppendLine(points[i], points[(i + 1) % points.size()], Clip(), m_runs);
     }
     PaintRuns(pen);
 }
@@ -165,34 +165,34 @@ void PainterSurface::VectorPolygon(std::span<const Pixel> points, Colour pen, Co
     for (const Pixel point : points) {
         polygon << QPointF(ClampToDevice(point.x) + 0.5, ClampToDevice(point.y) + 0.5);
     }
-    painter.setPen(QPen(ToColor(pen), 1));
-    painter.setBrush(ToColor(brush));
-    painter.drawPolygon(polygon);
+    m_painter.setPen(QPen(ToColor(pen), 1));
+    m_painter.setBrush(ToColor(brush));
+    m_painter.drawPolygon(polygon);
 }
 
 void PainterSurface::Ellipse(const PixelRect& box, Colour pen, std::int32_t penWidth)
 {
-    painter.setPen(QPen(ToColor(pen), penWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(OutlineBox(box));
+    m_painter.setPen(QPen(ToColor(pen), penWidth));
+    m_painter.setBrush(Qt::NoBrush);
+    m_painter.drawEllipse(OutlineBox(box));
 }
 
 void PainterSurface::Arc(const PixelRect& box, Pixel from, Pixel to, Colour pen)
 {
     const QRectF outline = OutlineBox(box);
     const AngleSpan stretch = AngleSpanOf(outline, from, to);
-    painter.setPen(QPen(ToColor(pen), 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawArc(outline, stretch.start, stretch.length);
+    m_painter.setPen(QPen(ToColor(pen), 1));
+    m_painter.setBrush(Qt::NoBrush);
+    m_painter.drawArc(outline, stretch.start, stretch.length);
 }
 
 void PainterSurface::Chord(const PixelRect& box, Pixel from, Pixel to, Colour pen, Colour brush)
 {
     const QRectF outline = OutlineBox(box);
     const AngleSpan stretch = AngleSpanOf(outline, from, to);
-    painter.setPen(QPen(ToColor(pen), 1));
-    painter.setBrush(ToColor(brush));
-    painter.drawChord(outline, stretch.start, stretch.length);
+    m_painter.setPen(QPen(ToColor(pen), 1));
+    m_painter.setBrush(ToColor(brush));
+    m_painter.drawChord(outline, stretch.start, stretch.length);
 }
 
 void PainterSurface::Image(Pixel at, std::int32_t imageWidth, std::span<const Colour> pixels)
@@ -202,26 +202,26 @@ void PainterSurface::Image(Pixel at, std::int32_t imageWidth, std::span<const Co
         return;
     }
     const auto rows = static_cast<std::int32_t>(pixels.size() / static_cast<std::size_t>(imageWidth));
-    const bool isSeen =
-        at.x < width && at.y < height && std::int64_t{at.x} + imageWidth > 0 && std::int64_t{at.y} + rows > 0;
+    const bool isSeen = at.x < m_width && at.y < m_height && std::int64_t{at.x} + imageWidth > 0 &&
+                        std::int64_t{at.y} + rows > 0;
     if (isSeen) {
         const QImage image(reinterpret_cast<const uchar*>(pixels.data()), imageWidth, rows,
                            qsizetype{imageWidth} * 3, QImage::Format_RGB888);
-        painter.drawImage(at.x, at.y, image);
+        m_painter.drawImage(at.x, at.y, image);
     }
 }
 
 const QFont& PainterSurface::DeviceFont(const Font& font)
 {
-    if (font != lastFont) {
-        lastFont = font;
-        deviceFont = QFont(QStringList{"Arial", "Liberation Sans"});
-        deviceFont.setPixelSize(PixelSize(font.height));
+    if (font != m_lastFont) {
+        m_lastFont = font;
+        m_deviceFont = QFont(QStringList{"Arial", "Liberation Sans"});
+        m_deviceFont.setPixelSize(PixelSize(font.height));
         // The code page needs no glyph of another font, and looking for one costs a good part of the start.
-        deviceFont.setStyleStrategy(QFont::NoFontMerging);
-        deviceFont.setWeight(font.weight >= Font::kBold ? QFont::Bold : QFont::Normal);
+        m_deviceFont.setStyleStrategy(QFont::NoFontMerging);
+        m_deviceFont.setWeight(font.weight >= Font::kBold ? QFont::Bold : QFont::Normal);
     }
-    return deviceFont;
+    return m_deviceFont;
 }
 
 void PainterSurface::Text(Pixel at, std::string_view text, const Font& font, Colour colour)
@@ -231,24 +231,24 @@ void PainterSurface::Text(Pixel at, std::string_view text, const Font& font, Col
     const std::int64_t length = 2 * line * static_cast<std::int64_t>(std::min(text.size(), kLongestText));
     const std::int64_t toRight = font.upright ? 2 * line : length;
     const std::int64_t up = font.upright ? length : line;
-    if (at.x - line > width || at.x + toRight < 0 || at.y - up > height || at.y + 2 * line < 0) {
+    if (at.x - line > m_width || at.x + toRight < 0 || at.y - up > m_height || at.y + 2 * line < 0) {
         return;
     }
-    painter.save();
-    painter.setFont(DeviceFont(font));
-    painter.setPen(ToColor(colour));
-    painter.translate(at.x, at.y);
+    m_painter.save();
+    m_painter.setFont(DeviceFont(font));
+    m_painter.setPen(ToColor(colour));
+    m_painter.translate(at.x, at.y);
     if (font.upright) {
-        painter.rotate(-90);
+        m_painter.rotate(-90);
     }
-    painter.drawText(QPointF(0, std::round(font.height * kAscent / kLine)), ToString(text));
-    painter.restore();
+    m_painter.drawText(QPointF(0, std::round(font.height * kAscent / kLine)), ToString(text));
+    m_painter.restore();
 }
 
 std::int32_t PainterSurface::WrappedText(const PixelRect& box, std::string_view text, const Font& font,
                                          Colour colour)
 {
-    const QFontMetricsF metrics(DeviceFont(font), painter.device());
+    const QFontMetricsF metrics(DeviceFont(font), m_painter.device());
     const auto measure = [&](std::string_view piece) { return metrics.horizontalAdvance(ToString(piece)); };
     std::int32_t used = 0;
     for (const std::string_view line :

@@ -15,8 +15,8 @@ public:
     /// The painter stays the caller's and must outlive the surface.
     PainterSurface(QPainter& device, std::int32_t surfaceWidth, std::int32_t surfaceHeight);
 
-    std::int32_t Width() const override { return width; }
-    std::int32_t Height() const override { return height; }
+    std::int32_t Width() const override { return m_width; }
+    std::int32_t Height() const override { return m_height; }
     void FillRect(const PixelRect& rect, Colour colour) override;
     void Line(Pixel from, Pixel to, Colour colour) override;
     void Polygon(std::span<const Pixel> points, Colour pen, Colour brush) override;
@@ -29,17 +29,17 @@ public:
                              Colour colour) override;
 
 private:
-    PixelRect Clip() const { return {0, 0, width, height}; }
+    PixelRect Clip() const { return {0, 0, m_width, m_height}; }
     void PaintRuns(Colour colour);
     void VectorLine(Pixel from, Pixel to, Colour colour);
     void VectorPolygon(std::span<const Pixel> points, Colour pen, Colour brush);
     const QFont& DeviceFont(const Font& font);
 
-    QPainter& painter;
-    std::int32_t width;
-    std::int32_t height;
-    bool isRaster;
-    std::vector<PixelRect> runs; ///< of the shape being painted
-    Font lastFont{0};
-    QFont deviceFont; ///< made for lastFont
+    QPainter& m_painter;
+    std::int32_t m_width;
+    std::int32_t m_height;
+    bool m_isRaster;
+    std::vector<PixelRect> m_runs; ///< of the shape being painted
+    Font m_lastFont{0};
+    QFont m_deviceFont; ///< made for lastFont
 };

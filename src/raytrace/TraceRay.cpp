@@ -14,7 +14,7 @@ constexpr double kFar = 10000.0; // mm: the length of a ray that meets nothing
 class Ray {
 public:
     Ray(const ScopeGeometry& geometry, bool showLost, std::vector<RaySegment>* receiver)
-        : g(geometry), miss_in_grey(showLost), segments(receiver)
+        : m_g(geometry), m_missInGrey(showLost), m_segments(receiver)
     {}
 
     void Start(Point from, double angle)
@@ -27,23 +27,23 @@ public:
     {
         return IntersectLines(start.x, start.y, far.x, far.y, x3, y3, x4, y4);
     }
-    Point MeetsWall(double y) const { return Meets(g.frontX, y, g.frontX + g.tubeLength, y); }
+    Point MeetsWall(double y) const { return Meets(m_g.frontX, y, m_g.frontX + m_g.tubeLength, y); }
     Point MeetsDiagonal() const
     {
-        return Meets(g.secondaryLeft, g.secondaryTop, g.secondaryRight, g.secondaryBottom);
+        return Meets(m_g.secondaryLeft, m_g.secondaryTop, m_g.secondaryRight, m_g.secondaryBottom);
     }
 
-    bool IsAlongTube(double x) const { return g.frontX < x && x < g.frontX + g.tubeLength; }
+    bool IsAlongTube(double x) const { return m_g.frontX < x && x < m_g.frontX + m_g.tubeLength; }
 
     void Emit(Point to, RayClass colour)
     {
-        if (segments != nullptr) {
-            segments->push_back({start.x, start.y, to.x, to.y, colour});
+        if (m_segments != nullptr) {
+            m_segments->push_back({start.x, start.y, to.x, to.y, colour});
         }
     }
     RayOutcome LoseAt(Point to)
     {
-        if (miss_in_grey) {
+        if (m_missInGrey) {
             Emit(to, RayLost);
         }
         return false;
@@ -60,9 +60,9 @@ public:
 private:
     bool IsStoppedByWall(double y);
 
-    const ScopeGeometry& g;
-    bool miss_in_grey;
-    std::vector<RaySegment>* segments;
+    const ScopeGeometry& m_g;
+    bool m_missInGrey;
+    std::vector<RaySegment>* m_segments;
 };
 
 bool Ray::IsStoppedByWall(double y)
@@ -77,22 +77,23 @@ bool Ray::IsStoppedByWall(double y)
 
 bool Ray::IsStoppedBeforePrimary()
 {
-    if (start.x < g.secondaryLeft) {
+    if (start.x < m_g.secondaryLeft) {
         const Point hit = MeetsDiagonal();
-        if (g.secondaryTop <= hit.y && hit.y <= g.secondaryBottom) {
+        if (m_g.secondaryTop <= hit.y && hit.y <= m_g.secondaryBottom) {
             LoseAt(hit);
             return true;
         }
     }
-    const double bottom = g.top + g.tubeWidth;
-    return (start.y <= g.top && IsStoppedByWall(g.top)) || (start.y >= bottom && IsStoppedByWall(bottom)) ||
-           (start.y > g.top && IsStoppedByWall(g.top)) || (start.y < bottom && IsStoppedByWall(bottom));
+    const double bottom = m_g.top + m_g.tubeWidth;
+    return (start.y <= m_g.top && IsStoppedByWall(m_g.top)) ||
+           (start.y >= bottom && IsStoppedByWall(bottom)) ||
+           (start.y > m_g.top && IsStoppedByWall(m_g.top)) || (start.y < bottom && IsStoppedByWall(bottom));
 }
 
 void Ray::PassDiagonal(double ix)
 {
-    const bool below = ix >= g.secondaryLeft;
-    const Point hit = MeetsWall(below ? g.top + g.tubeWidth : g.top);
+    const bool below = ix >= m_g.secondaryLeft;
+    const Point hit = MeetsWall(below ? m_g.top + m_g.tubeWidth : m_g.top);
     LoseAt(IsAlongTube(hit.x) ? hit : far);
 }
 

@@ -20,10 +20,10 @@ CFieldSimulationCtrl::CFieldSimulationCtrl(QWidget* parent) : QWidget(parent)
 
 void CFieldSimulationCtrl::paintEvent(QPaintEvent*)
 {
-    if (telescope == nullptr) {
+    if (m_telescope == nullptr) {
         return;
     }
     QPainter painter(this);
     PainterSurface surface(painter, width(), height());
-    DrawFieldPicture(surface, simulation.Table(*telescope, WriteDot));
+    DrawFieldPicture(surface, m_simulation.Table(*m_telescope, WriteDot));
 }

@@ -13,12 +13,12 @@ public:
     explicit CFieldSimulationCtrl(QWidget* parent = nullptr);
 
     /// The telescope must outlive the widget; without one the picture stays empty.
-    void SetTelescope(COrrevaData& record) { telescope = &record; }
+    void SetTelescope(COrrevaData& record) { m_telescope = &record; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    COrrevaData* telescope = nullptr;
-    FieldSimulation simulation;
+    COrrevaData* m_telescope = nullptr;
+    FieldSimulation m_simulation;
 };

@@ -15,14 +15,14 @@ void CLeftView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     PainterSurface surface(painter, width(), height());
-    PaintSummary(surface, *document.active_record, {document.field_diameter_100, document.field_angle_100},
-                 g_nLanguage);
+    PaintSummary(surface, *m_document.active_record,
+                 {m_document.field_diameter_100, m_document.field_angle_100}, g_nLanguage);
 }
 
 void CLeftView::OnPrint(QPrinter& printer)
 {
     QPainter painter(&printer);
     PainterSurface surface(painter, printer.width(), printer.height());
-    PaintSummary(surface, *document.active_record, {document.field_diameter_100, document.field_angle_100},
-                 g_nLanguage, kPaperFontHeight);
+    PaintSummary(surface, *m_document.active_record,
+                 {m_document.field_diameter_100, m_document.field_angle_100}, g_nLanguage, kPaperFontHeight);
 }

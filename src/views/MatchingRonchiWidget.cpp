@@ -18,8 +18,8 @@ constexpr int kHeight = 680;
 } // namespace
 
 CMatchingRonchiWidget::CMatchingRonchiWidget(COrrevaDoc& doc, QWidget* parent)
-    : QWidget(parent), document(doc), grating(doc.active_record->GetRonchiGrating()),
-      constant(doc.active_record->GetRonchiConstant())
+    : QWidget(parent), m_document(doc), m_grating(doc.active_record->GetRonchiGrating()),
+      m_constant(doc.active_record->GetRonchiConstant())
 {
     setProperty("controlId", kSimulationControl);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -30,6 +30,6 @@ void CMatchingRonchiWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     PainterSurface surface(painter, width(), height());
-    DrawRonchiPicture(surface, *document.active_record, grating, constant,
+    DrawRonchiPicture(surface, *m_document.active_record, m_grating, m_constant,
                       static_cast<std::uint32_t>(std::time(nullptr)));
 }

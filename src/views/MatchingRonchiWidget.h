@@ -17,7 +17,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    COrrevaDoc& document;
-    double grating;
-    double constant;
+    COrrevaDoc& m_document;
+    double m_grating;
+    double m_constant;
 };

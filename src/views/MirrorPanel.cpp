@@ -5,5 +5,5 @@
 
 void CMirrorPanel::Paint(Surface& surface, Colour background, Colour text)
 {
-    PaintMirrorPanel(surface, *document.active_record, background, text);
+    PaintMirrorPanel(surface, *m_document.active_record, background, text);
 }

@@ -27,32 +27,32 @@ bool COrrevaView::OnCommand(std::int32_t id) { return id == command_id::kShowWit
 
 void COrrevaView::OnDraw(Surface& surface, SectionZoom& view)
 {
-    g_pCurrentDocument = &document;
+    g_pCurrentDocument = &m_document;
     // The pointer is read at each drawing; neither zoom nor scroll is taken off it.
     const Pixel pointer = At(mapFromGlobal(QCursor::pos()));
-    PaintSection(surface, view, *document.active_record, document, pointer, g_nLanguage);
+    PaintSection(surface, view, *m_document.active_record, m_document, pointer, g_nLanguage);
 }
 
 void COrrevaView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     PainterSurface surface(painter, width(), height());
-    OnDraw(surface, zoom);
+    OnDraw(surface, m_zoom);
 }
 
 void COrrevaView::OnPrint(QPrinter& printer)
 {
     QPainter painter(&printer);
     PainterSurface surface(painter, printer.width(), printer.height());
-    SectionZoom onPaper = zoom; // the paper's size is none of the screen's business
+    SectionZoom onPaper = m_zoom; // the paper's size is none of the screen's business
     OnDraw(surface, onPaper);
 }
 
 void COrrevaView::mouseMoveEvent(QMouseEvent*)
 {
-    const bool rays =
-        document.ray_parallel != 0 || document.ray_from_focal_plane != 0 || document.ray_from_mouse != 0;
-    if (document.HasFile() && rays) {
+    const bool rays = m_document.ray_parallel != 0 || m_document.ray_from_focal_plane != 0 ||
+                      m_document.ray_from_mouse != 0;
+    if (m_document.HasFile() && rays) {
         update();
     }
 }
@@ -62,7 +62,7 @@ void COrrevaView::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton) {
         LogText("lbutton");
     } else if (event->button() == Qt::RightButton) {
-        zoom.RightClick();
+        m_zoom.RightClick();
         update();
     }
 }
@@ -70,7 +70,7 @@ void COrrevaView::mousePressEvent(QMouseEvent* event)
 void COrrevaView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
-        if (zoom.DoubleClick(At(event->position().toPoint()))) {
+        if (m_zoom.DoubleClick(At(event->position().toPoint()))) {
             update();
         }
     } else {

@@ -17,7 +17,7 @@ public:
     bool OnCommand(std::int32_t id) override;
     void OnPrint(QPrinter& printer) override;
 
-    const SectionZoom& Zoom() const { return zoom; }
+    const SectionZoom& Zoom() const { return m_zoom; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -28,5 +28,5 @@ protected:
 private:
     void OnDraw(Surface& surface, SectionZoom& view);
 
-    SectionZoom zoom;
+    SectionZoom m_zoom;
 };

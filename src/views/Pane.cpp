@@ -2,7 +2,7 @@
 
 #include <QEvent>
 
-CPane::CPane(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), document(doc)
+CPane::CPane(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), m_document(doc)
 {
     setFocusPolicy(Qt::StrongFocus);
     // A picture covers its pane whole; erasing it first would flicker.

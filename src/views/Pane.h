@@ -30,5 +30,5 @@ protected:
     void focusInEvent(QFocusEvent*) override {}
     void focusOutEvent(QFocusEvent*) override {}
 
-    COrrevaDoc& document;
+    COrrevaDoc& m_document;
 };

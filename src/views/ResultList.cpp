@@ -32,46 +32,46 @@ public:
     void SetColumns(std::span<const ListColumn> newColumns, int newLanguage)
     {
         beginResetModel();
-        columns.assign(newColumns.begin(), newColumns.end());
-        language = newLanguage;
-        count = 0;
-        announced = 0;
+        m_columns.assign(newColumns.begin(), newColumns.end());
+        m_language = newLanguage;
+        m_count = 0;
+        m_announced = 0;
         endResetModel();
     }
 
     void SetRows(int newCount, std::function<ListRow(int)> newRow)
     {
         beginResetModel();
-        count = newCount;
-        announced = std::min(count, kRowsAtOnce);
-        row = std::move(newRow);
+        m_count = newCount;
+        m_announced = std::min(m_count, kRowsAtOnce);
+        m_row = std::move(newRow);
         endResetModel();
     }
 
-    int Count() const { return count; }
+    int Count() const { return m_count; }
 
     QString Cell(int index, int column) const
     {
-        const ListRow cells = row(index);
+        const ListRow cells = m_row(index);
         const auto place = static_cast<std::size_t>(column);
         return place < cells.size() ? ToQString(cells[place]) : QString();
     }
 
-    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : announced; }
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : m_announced; }
     bool canFetchMore(const QModelIndex& parent) const override
     {
-        return !parent.isValid() && announced < count;
+        return !parent.isValid() && m_announced < m_count;
     }
     void fetchMore(const QModelIndex&) override
     {
-        const int more = std::min(count - announced, kRowsAtOnce);
-        beginInsertRows({}, announced, announced + more - 1);
-        announced += more;
+        const int more = std::min(m_count - m_announced, kRowsAtOnce);
+        beginInsertRows({}, m_announced, m_announced + more - 1);
+        m_announced += more;
         endInsertRows();
     }
     int columnCount(const QModelIndex& parent = {}) const override
     {
-        return parent.isValid() ? 0 : static_cast<int>(columns.size());
+        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
     }
 
     QVariant data(const QModelIndex& index, int role) const override
@@ -88,30 +88,30 @@ public:
             return {};
         }
         if (role == Qt::DisplayRole) {
-            return ToQString(columns[static_cast<std::size_t>(section)].title.In(language));
+            return ToQString(m_columns[static_cast<std::size_t>(section)].title.In(m_language));
         }
         return role == Qt::TextAlignmentRole ? Alignment(section) : QVariant();
     }
 
-    const std::vector<ListColumn>& Columns() const { return columns; }
+    const std::vector<ListColumn>& Columns() const { return m_columns; }
 
 private:
     QVariant Alignment(int column) const
     {
-        const bool right = columns[static_cast<std::size_t>(column)].right_aligned;
+        const bool right = m_columns[static_cast<std::size_t>(column)].right_aligned;
         return QVariant::fromValue(Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft));
     }
 
-    std::vector<ListColumn> columns;
-    std::function<ListRow(int)> row;
-    int count = 0;
-    int announced = 0; ///< how many of them the toolkit knows
-    int language = 0;
+    std::vector<ListColumn> m_columns;
+    std::function<ListRow(int)> m_row;
+    int m_count = 0;
+    int m_announced = 0; ///< how many of them the toolkit knows
+    int m_language = 0;
 };
 
-CResultList::CResultList(QWidget* parent) : QTreeView(parent), results(new ResultModel(this))
+CResultList::CResultList(QWidget* parent) : QTreeView(parent), m_results(new ResultModel(this))
 {
-    setModel(results);
+    setModel(m_results);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
@@ -121,7 +121,7 @@ CResultList::CResultList(QWidget* parent) : QTreeView(parent), results(new Resul
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setResizeContentsPrecision(kRowsMeasured);
-    connect(header(), &QHeaderView::sectionResized, this, [this] { sizedByUser = true; });
+    connect(header(), &QHeaderView::sectionResized, this, [this] { m_sizedByUser = true; });
 
     auto* const copy = new QAction(tr("Copy"), this);
     connect(copy, &QAction::triggered, this, &CResultList::CopySelection);
@@ -131,11 +131,11 @@ CResultList::CResultList(QWidget* parent) : QTreeView(parent), results(new Resul
 
 void CResultList::SetColumns(std::span<const ListColumn> columns, int language)
 {
-    results->SetColumns(columns, language);
+    m_results->SetColumns(columns, language);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         header()->resizeSection(static_cast<int>(i), columns[i].width);
     }
-    sizedByUser = false;
+    m_sizedByUser = false;
 }
 
 void CResultList::SetRows(const ListRows& rows)
@@ -147,25 +147,25 @@ void CResultList::SetRows(const ListRows& rows)
 /// The widths that columns start with suit most rows; room is made for longer ones, until the user resizes.
 void CResultList::WidenColumns()
 {
-    if (sizedByUser) {
+    if (m_sizedByUser) {
         return;
     }
-    for (int column = 0; column < results->columnCount(); ++column) {
+    for (int column = 0; column < m_results->columnCount(); ++column) {
         header()->resizeSection(column, std::max({columnWidth(column), sizeHintForColumn(column),
                                                   header()->sectionSizeHint(column)}));
     }
-    sizedByUser = false;
+    m_sizedByUser = false;
 }
 
 void CResultList::SetComputedRows(int count, std::function<ListRow(int)> row)
 {
-    results->SetRows(count, std::move(row));
+    m_results->SetRows(count, std::move(row));
     WidenColumns();
 }
 
-int CResultList::RowCount() const { return results->Count(); }
+int CResultList::RowCount() const { return m_results->Count(); }
 
-QString CResultList::Cell(int row, int column) const { return results->Cell(row, column); }
+QString CResultList::Cell(int row, int column) const { return m_results->Cell(row, column); }
 
 int CResultList::SelectedRow() const
 {
@@ -182,7 +182,7 @@ void CResultList::CopySelection() const
     for (const QItemSelectionRange& range : ranges) {
         for (int row = range.top(); row <= range.bottom() && lines.size() < kMostCopiedRows; ++row) {
             QStringList cells;
-            for (int column = 0; column < results->columnCount(); ++column) {
+            for (int column = 0; column < m_results->columnCount(); ++column) {
                 cells << Cell(row, column);
             }
             lines << cells.join('\t');

@@ -38,6 +38,6 @@ protected:
 private:
     void WidenColumns();
 
-    ResultModel* results;
-    bool sizedByUser = false; ///< a width is no longer ours
+    ResultModel* m_results;
+    bool m_sizedByUser = false; ///< a width is no longer ours
 };

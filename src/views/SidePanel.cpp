@@ -17,7 +17,7 @@ Colour ToColour(const QColor& color)
 
 } // namespace
 
-CSidePanel::CSidePanel(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), document(doc)
+CSidePanel::CSidePanel(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), m_document(doc)
 {
     setProperty("controlId", kPanelControl);
     setMinimumHeight(kLeastHeight);

@@ -18,5 +18,5 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     virtual void Paint(Surface& surface, Colour background, Colour text) = 0;
 
-    COrrevaDoc& document;
+    COrrevaDoc& m_document;
 };

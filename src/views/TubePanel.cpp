@@ -6,5 +6,5 @@
 
 void CTubePanel::Paint(Surface& surface, Colour background, Colour text)
 {
-    PaintTubePanel(surface, *document.active_record, g_nLanguage, background, text);
+    PaintTubePanel(surface, *m_document.active_record, g_nLanguage, background, text);
 }

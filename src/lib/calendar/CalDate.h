@@ -32,8 +32,6 @@ public:
     CalDate& NextWeekday(std::int32_t nWeekday);
     CalDate& PreviousWeekday(std::int32_t nWeekday);
 
-    using CalDay::operator==;
-    using CalDay::operator<=>;
     /// Comparisons with a weekday number compare the date's weekday.
     bool operator==(std::int32_t nWeekday) const { return Weekday() == nWeekday; }
     std::strong_ordering operator<=>(std::int32_t nWeekday) const { return Weekday() <=> nWeekday; }

@@ -15,13 +15,13 @@ public:
     constexpr std::uint16_t GetMonth() const { return m_nMonth; }
     constexpr std::int32_t GetYear() const { return m_nYear; }
 
-    constexpr bool operator==(const CalDay&) const = default;
-    constexpr std::strong_ordering operator<=>(const CalDay& other) const
+    friend constexpr bool operator==(const CalDay&, const CalDay&) = default;
+    friend constexpr std::strong_ordering operator<=>(const CalDay& a, const CalDay& b)
     {
-        if (m_nYear != other.m_nYear) {
-            return m_nYear <=> other.m_nYear;
+        if (a.m_nYear != b.m_nYear) {
+            return a.m_nYear <=> b.m_nYear;
         }
-        return m_nMonth != other.m_nMonth ? m_nMonth <=> other.m_nMonth : m_nDay <=> other.m_nDay;
+        return a.m_nMonth != b.m_nMonth ? a.m_nMonth <=> b.m_nMonth : a.m_nDay <=> b.m_nDay;
     }
 
 private:

@@ -106,55 +106,55 @@ FileReplacement::FileReplacement(const char* pszPath)
     if (!path) {
         return;
     }
-    target = path->string();
+    m_target = path->string();
     struct stat old = {};
-    const bool exists = stat(target.c_str(), &old) == 0;
-    if (exists && access(target.c_str(), W_OK) != 0) {
+    const bool exists = stat(m_target.c_str(), &old) == 0;
+    if (exists && access(m_target.c_str(), W_OK) != 0) {
         return;
     }
     if (exists && !S_ISREG(old.st_mode)) {
-        fd = OpenDevice(target);
-        good = fd >= 0;
+        m_fd = OpenDevice(m_target);
+        m_good = m_fd >= 0;
         return;
     }
     // Not the file's own name with an ending: that could be too long.
-    beside = (path->parent_path() / ".orreva-XXXXXX").string();
-    fd = mkstemp(beside.data());
-    good = fd >= 0 && TakeRights(fd, exists ? &old : nullptr);
+    m_beside = (path->parent_path() / ".orreva-XXXXXX").string();
+    m_fd = mkstemp(m_beside.data());
+    m_good = m_fd >= 0 && TakeRights(m_fd, exists ? &old : nullptr);
 }
 
 FileReplacement::~FileReplacement()
 {
-    if (fd >= 0) {
+    if (m_fd >= 0) {
         Close();
-        unlink(beside.c_str());
+        unlink(m_beside.c_str());
     }
 }
 
 bool FileReplacement::Write(std::string_view bytes)
 {
-    good = good && WriteAll(fd, bytes);
-    return good;
+    m_good = m_good && WriteAll(m_fd, bytes);
+    return m_good;
 }
 
 bool FileReplacement::Close()
 {
-    const bool closed = close(fd) == 0;
-    fd = -1;
+    const bool closed = close(m_fd) == 0;
+    m_fd = -1;
     return closed;
 }
 
 bool FileReplacement::Commit()
 {
-    if (fd < 0) {
+    if (m_fd < 0) {
         return false;
     }
-    const bool replaces = !beside.empty();
-    const bool flushed = good && (!replaces || fsync(fd) == 0);
-    if (Close() && flushed && (!replaces || std::rename(beside.c_str(), target.c_str()) == 0)) {
+    const bool replaces = !m_beside.empty();
+    const bool flushed = m_good && (!replaces || fsync(m_fd) == 0);
+    if (Close() && flushed && (!replaces || std::rename(m_beside.c_str(), m_target.c_str()) == 0)) {
         return true;
     }
-    unlink(beside.c_str());
+    unlink(m_beside.c_str());
     return false;
 }
 

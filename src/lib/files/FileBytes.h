@@ -29,10 +29,10 @@ public:
 private:
     bool Close();
 
-    std::string target;
-    std::string beside; ///< empty for a device
-    int fd = -1;
-    bool good = false;
+    std::string m_target;
+    std::string m_beside; ///< empty for a device
+    int m_fd = -1;
+    bool m_good = false;
 };
 
 /// Replaces a file whole or not at all, which takes the right to write into its folder. A file that may not

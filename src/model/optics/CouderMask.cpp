@@ -28,8 +28,8 @@ bool CouderMask::SetZone(std::int32_t i, double inner, double outer)
         AssertFail("i<MAX_MASK_ZONES", __FILE__, __LINE__, nullptr);
         return false;
     }
-    inner_radius[Index(i)] = inner;
-    outer_radius[Index(i)] = outer;
+    m_innerRadius[Index(i)] = inner;
+    m_outerRadius[Index(i)] = outer;
     return true;
 }
 

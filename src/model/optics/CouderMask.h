@@ -21,8 +21,8 @@ public:
                std::int32_t maskType, std::int32_t zoneCount);
 
     /// Radii of a zone in mm, by an index from 0; HUGE_VAL for an index that the mask has no zone for.
-    double GetInnerRadius(std::int32_t i) const { return HasZone(i) ? inner_radius[Index(i)] : HUGE_VAL; }
-    double GetOuterRadius(std::int32_t i) const { return HasZone(i) ? outer_radius[Index(i)] : HUGE_VAL; }
+    double GetInnerRadius(std::int32_t i) const { return HasZone(i) ? m_innerRadius[Index(i)] : HUGE_VAL; }
+    double GetOuterRadius(std::int32_t i) const { return HasZone(i) ? m_outerRadius[Index(i)] : HUGE_VAL; }
 
     double diameter;
     double focal_length;
@@ -41,8 +41,8 @@ private:
     /// False if the arrays have no room for the zone.
     bool SetZone(std::int32_t i, double inner, double outer);
 
-    Radii inner_radius{};
-    Radii outer_radius{};
+    Radii m_innerRadius{};
+    Radii m_outerRadius{};
 };
 
 /// The current mask: null at the start of the program; it outlives the sheet that made it.

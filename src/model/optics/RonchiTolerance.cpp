@@ -24,30 +24,30 @@ struct Extremes {
 /// The wavefront error of a mirror as a polynomial through three test zones; everything in inches.
 class Wavefront {
 public:
-    Wavefront(double D, double F) : r(D / 2)
+    Wavefront(double D, double F) : m_r(D / 2)
     {
         const double R = 2 * F;
         for (int k = 0; k < 3; ++k) {
-            const double z = kTestZones[k] * r;
-            s[k] = std::pow(z, 2) / (2 * R);
-            q[k] = z / (std::pow(R, 2) * kWavelength);
+            const double z = kTestZones[k] * m_r;
+            m_s[k] = std::pow(z, 2) / (2 * R);
+            m_q[k] = z / (std::pow(R, 2) * kWavelength);
         }
         for (double t = kZoneStep; t <= 0.5; t += kZoneStep) {
             const double x = t * D;
-            powers.push_back({std::pow(x, 4), std::pow(x, 3), std::pow(x, 2)});
+            m_powers.push_back({std::pow(x, 4), std::pow(x, 3), std::pow(x, 2)});
         }
     }
 
     /// Widens `extremes` by the errors, in waves, of a mirror of the conic constant p.
     void Widen(Extremes& extremes, double p) const
     {
-        const double e1 = (s[0] - s[0] * p) * q[0];
-        const double e2 = (s[1] - s[1] * p) * q[1];
-        const double e3 = (s[2] - s[2] * p) * q[2];
-        const double A = (3.31 * e1 - 3.88 * e2 + 1.86 * e3) / cube;
-        const double B = (-7.19 * e1 + 6.37 * e2 - 2.47 * e3) / square;
-        const double C = -r * (r * A + B);
-        for (const Powers& x : powers) {
+        const double e1 = (m_s[0] - m_s[0] * p) * m_q[0];
+        const double e2 = (m_s[1] - m_s[1] * p) * m_q[1];
+        const double e3 = (m_s[2] - m_s[2] * p) * m_q[2];
+        const double A = (3.31 * e1 - 3.88 * e2 + 1.86 * e3) / m_cube;
+        const double B = (-7.19 * e1 + 6.37 * e2 - 2.47 * e3) / m_square;
+        const double C = -m_r * (m_r * A + B);
+        for (const Powers& x : m_powers) {
             const double W = x.fourth * A + x.third * B + x.second * C;
             if (W < 0 && W < extremes.min) {
                 extremes.min = W;
@@ -65,12 +65,12 @@ private:
         double second;
     };
 
-    double r;
-    double cube = std::pow(r, 3);
-    double square = std::pow(r, 2);
-    double s[3] = {}; ///< longitudinal aberration of a paraboloid at the zone
-    double q[3] = {}; ///< from there to waves
-    std::vector<Powers> powers;
+    double m_r;
+    double m_cube = std::pow(m_r, 3);
+    double m_square = std::pow(m_r, 2);
+    double m_s[3] = {}; ///< longitudinal aberration of a paraboloid at the zone
+    double m_q[3] = {}; ///< from there to waves
+    std::vector<Powers> m_powers;
 };
 
 std::optional<double> Search(const Wavefront& wavefront, double step)

@@ -18,29 +18,29 @@ constexpr Bilingual kSavePrompt{"Save %s?",
 /// A wait cursor for as long as it lives.
 class Wait {
 public:
-    explicit Wait(RecordHost* recordHost) : host(recordHost)
+    explicit Wait(RecordHost* recordHost) : m_host(recordHost)
     {
-        if (host != nullptr) {
-            host->BeginWait();
+        if (m_host != nullptr) {
+            m_host->BeginWait();
         }
     }
     ~Wait()
     {
-        if (host != nullptr) {
-            host->EndWait();
+        if (m_host != nullptr) {
+            m_host->EndWait();
         }
     }
     Wait(const Wait&) = delete;
     Wait& operator=(const Wait&) = delete;
 
 private:
-    RecordHost* host;
+    RecordHost* m_host;
 };
 
 } // namespace
 
 COrrevaData::COrrevaData(RecordHost* recordHost, RecordFiles* recordFiles)
-    : host(recordHost), files(recordFiles)
+    : m_host(recordHost), m_files(recordFiles)
 {
     Clear();
 }
@@ -50,7 +50,7 @@ void COrrevaData::Reset()
     if (modified != 0) {
         LibString prompt;
         prompt.Format(kSavePrompt.In(g_nLanguage), Cp1252FromUtf8(file_path.GetText()).c_str());
-        if (host != nullptr && host->AskYesNo(prompt)) {
+        if (m_host != nullptr && m_host->AskYesNo(prompt)) {
             Save();
         }
     }
@@ -94,7 +94,7 @@ int COrrevaData::Save()
     if (!HasFile()) {
         return SaveAs(nullptr);
     }
-    if (files == nullptr || !files->Write(*this)) {
+    if (m_files == nullptr || !m_files->Write(*this)) {
         return 1;
     }
     modified = 0;
@@ -118,20 +118,20 @@ int COrrevaData::SaveAs(const char* pfn)
 
 int COrrevaData::Load(const char* path)
 {
-    const Wait wait(host);
+    const Wait wait(m_host);
     if (path == nullptr || FileExists(path) == 0) {
         LibString message;
         message.Format("Die Datei %s existiert nicht!", Cp1252FromUtf8(file_path.GetText()).c_str());
-        if (host != nullptr) {
-            host->ShowMessage(message);
+        if (m_host != nullptr) {
+            m_host->ShowMessage(message);
         }
         Clear();
         return 1;
     }
     file_path = path; // which may have been this very text
     SetTitleOfDocument();
-    if (files != nullptr) {
-        files->Read(*this);
+    if (m_files != nullptr) {
+        m_files->Read(*this);
     }
     modified = 0;
     return 0;
@@ -139,8 +139,8 @@ int COrrevaData::Load(const char* path)
 
 void COrrevaData::SetTitleOfDocument()
 {
-    if (host != nullptr) {
-        host->SetDocumentTitle(file_path);
+    if (m_host != nullptr) {
+        m_host->SetDocumentTitle(file_path);
     }
 }
 

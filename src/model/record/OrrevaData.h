@@ -214,6 +214,6 @@ private:
     double DefaultInsideDiameterHat();
     void SetTitleOfDocument();
 
-    RecordHost* host;
-    RecordFiles* files;
+    RecordHost* m_host;
+    RecordFiles* m_files;
 };

@@ -4,12 +4,13 @@
 
 #include "ui_AboutBox.h"
 
-CAboutBox::CAboutBox(bool germanForm, QWidget* parent) : QDialog(parent), ui(std::make_unique<Ui::AboutBox>())
+CAboutBox::CAboutBox(bool germanForm, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::AboutBox>())
 {
-    ui->setupUi(this);
-    ui->icon->setPixmap(QIcon(":/icons/orreva.svg").pixmap(64, 64));
-    ui->formulas->setVisible(germanForm);
-    connect(ui->formulas, &QPushButton::clicked, this, [] { WinHelp(0, kHelpContext); });
+    m_ui->setupUi(this);
+    m_ui->icon->setPixmap(QIcon(":/icons/orreva.svg").pixmap(64, 64));
+    m_ui->formulas->setVisible(germanForm);
+    connect(m_ui->formulas, &QPushButton::clicked, this, [] { WinHelp(0, kHelpContext); });
 }
 
 CAboutBox::~CAboutBox() = default;

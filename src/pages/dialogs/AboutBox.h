@@ -18,5 +18,5 @@ public:
     ~CAboutBox() override;
 
 private:
-    std::unique_ptr<Ui::AboutBox> ui;
+    std::unique_ptr<Ui::AboutBox> m_ui;
 };

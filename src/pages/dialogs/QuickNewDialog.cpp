@@ -5,19 +5,19 @@
 #include "ui_QuickNewDialog.h"
 
 CQuickNewDialog::CQuickNewDialog(const QuickNewTexts& texts, QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::QuickNewDialog>())
+    : QDialog(parent), m_ui(std::make_unique<Ui::QuickNewDialog>())
 {
-    ui->setupUi(this);
-    ui->title->setText(ToQString(texts.title));
-    ui->aperture->setText(ToQString(texts.aperture));
-    ui->focalLength->setText(ToQString(texts.focal_length));
-    ui->title->selectAll();
+    m_ui->setupUi(this);
+    m_ui->title->setText(ToQString(texts.title));
+    m_ui->aperture->setText(ToQString(texts.aperture));
+    m_ui->focalLength->setText(ToQString(texts.focal_length));
+    m_ui->title->selectAll();
 }
 
 CQuickNewDialog::~CQuickNewDialog() = default;
 
 QuickNewTexts CQuickNewDialog::Texts() const
 {
-    return {FromQString(ui->title->text()), FromQString(ui->aperture->text()),
-            FromQString(ui->focalLength->text())};
+    return {FromQString(m_ui->title->text()), FromQString(m_ui->aperture->text()),
+            FromQString(m_ui->focalLength->text())};
 }

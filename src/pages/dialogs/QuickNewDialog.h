@@ -21,5 +21,5 @@ public:
     QuickNewTexts Texts() const;
 
 private:
-    std::unique_ptr<Ui::QuickNewDialog> ui;
+    std::unique_ptr<Ui::QuickNewDialog> m_ui;
 };

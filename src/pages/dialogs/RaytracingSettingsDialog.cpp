@@ -3,10 +3,10 @@
 #include "ui_RaytracingSettingsDialog.h"
 
 CRaytracingSettingsDialog::CRaytracingSettingsDialog(std::uint8_t miss_in_grey, QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::RaytracingSettingsDialog>())
+    : QDialog(parent), m_ui(std::make_unique<Ui::RaytracingSettingsDialog>())
 {
-    ui->setupUi(this);
-    (miss_in_grey == 0 ? ui->hideMissing : ui->greyMissing)->setChecked(true);
+    m_ui->setupUi(this);
+    (miss_in_grey == 0 ? m_ui->hideMissing : m_ui->greyMissing)->setChecked(true);
 }
 
 CRaytracingSettingsDialog::~CRaytracingSettingsDialog() = default;

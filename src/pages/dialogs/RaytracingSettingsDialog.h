@@ -19,5 +19,5 @@ public:
     ~CRaytracingSettingsDialog() override;
 
 private:
-    std::unique_ptr<Ui::RaytracingSettingsDialog> ui;
+    std::unique_ptr<Ui::RaytracingSettingsDialog> m_ui;
 };

@@ -23,6 +23,6 @@ private:
     void OnChangePrecision(const QString& text);
     void OnChangeStarDiameter(const QString& text);
 
-    std::unique_ptr<Ui::ArtificialStarDialog> ui;
-    StarDialogTexts texts;
+    std::unique_ptr<Ui::ArtificialStarDialog> m_ui;
+    StarDialogTexts m_texts;
 };

@@ -5,10 +5,10 @@
 #include "ui_FieldSimulationDlg.h"
 
 CFieldSimulationDlg::CFieldSimulationDlg(COrrevaDoc& document, QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::FieldSimulationDlg>())
+    : QDialog(parent), m_ui(std::make_unique<Ui::FieldSimulationDlg>())
 {
-    ui->setupUi(this);
-    ui->field->SetTelescope(*document.active_record);
+    m_ui->setupUi(this);
+    m_ui->field->SetTelescope(*document.active_record);
 }
 
 CFieldSimulationDlg::~CFieldSimulationDlg() = default;

@@ -18,5 +18,5 @@ public:
     ~CFieldSimulationDlg() override;
 
 private:
-    std::unique_ptr<Ui::FieldSimulationDlg> ui;
+    std::unique_ptr<Ui::FieldSimulationDlg> m_ui;
 };

@@ -27,9 +27,9 @@ void ShowRows(CResultList& list, const ZoneTable& table)
 } // namespace
 
 CPropertyPageCouder1::CPropertyPageCouder1(COrrevaDoc& doc, QWidget* parent)
-    : CPropertyPage(parent), document(doc), ui(std::make_unique<Ui::PropertyPageCouder1>())
+    : CPropertyPage(parent), m_document(doc), m_ui(std::make_unique<Ui::PropertyPageCouder1>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     const Mirror mirror = ReadMirror();
     ShowFields(OpenZoneFields(mirror.D, mirror.F));
     RebuildColumnsAndRows();
@@ -43,33 +43,33 @@ CPropertyPageCouder1::~CPropertyPageCouder1() = default;
 
 CPropertyPageCouder1::Mirror CPropertyPageCouder1::ReadMirror()
 {
-    const double D = document.main_record.GetMirrorDiameter();
-    const double F = document.main_record.GetFocalLength();
+    const double D = m_document.main_record.GetMirrorDiameter();
+    const double F = m_document.main_record.GetFocalLength();
     return {D, F};
 }
 
 void CPropertyPageCouder1::ShowFields(const ZoneFields& fields)
 {
-    ui->wantedZones->setText(ToQString(fields.wanted_zones));
-    ui->centre->setText(ToQString(fields.centre_percent));
-    ui->edge->setText(ToQString(fields.edge_width));
+    m_ui->wantedZones->setText(ToQString(fields.wanted_zones));
+    m_ui->centre->setText(ToQString(fields.centre_percent));
+    m_ui->edge->setText(ToQString(fields.edge_width));
 }
 
 ZoneFields CPropertyPageCouder1::TakeFields() const
 {
     ZoneFields fields;
-    fields.wanted_zones = FromQString(ui->wantedZones->text());
-    fields.centre_percent = FromQString(ui->centre->text());
-    fields.edge_width = FromQString(ui->edge->text());
-    fields.view.mask_type = Chosen({ui->couderMask, ui->everestPinstick});
-    fields.view.centre_method = Chosen({ui->carlin, ui->couder, ui->texereau});
-    fields.view.light_source = Chosen({ui->movingSource, ui->fixedSource});
+    fields.wanted_zones = FromQString(m_ui->wantedZones->text());
+    fields.centre_percent = FromQString(m_ui->centre->text());
+    fields.edge_width = FromQString(m_ui->edge->text());
+    fields.view.mask_type = Chosen({m_ui->couderMask, m_ui->everestPinstick});
+    fields.view.centre_method = Chosen({m_ui->carlin, m_ui->couder, m_ui->texereau});
+    fields.view.light_source = Chosen({m_ui->movingSource, m_ui->fixedSource});
     return fields;
 }
 
 void CPropertyPageCouder1::ConnectFields()
 {
-    for (const QLineEdit* const edit : {ui->wantedZones, ui->centre, ui->edge}) {
+    for (const QLineEdit* const edit : {m_ui->wantedZones, m_ui->centre, m_ui->edge}) {
         connect(edit, &QLineEdit::textEdited, this, &CPropertyPageCouder1::RebuildRows);
     }
     for (const QRadioButton* const radio : findChildren<QRadioButton*>()) {
@@ -85,9 +85,9 @@ void CPropertyPageCouder1::ConnectResets()
             RebuildColumnsAndRows();
         });
     };
-    bind(ui->centreReset, ui->centre, [] { return ZoneFields().centre_percent; });
-    bind(ui->edgeReset, ui->edge, [] { return ZoneFields().edge_width; });
-    bind(ui->wantedZonesReset, ui->wantedZones, [this] {
+    bind(m_ui->centreReset, m_ui->centre, [] { return ZoneFields().centre_percent; });
+    bind(m_ui->edgeReset, m_ui->edge, [] { return ZoneFields().edge_width; });
+    bind(m_ui->wantedZonesReset, m_ui->wantedZones, [this] {
         const Mirror mirror = ReadMirror();
         return ProposedZonesText(TakeFields(), mirror.D, mirror.F);
     });
@@ -95,21 +95,21 @@ void CPropertyPageCouder1::ConnectResets()
 
 void CPropertyPageCouder1::ConnectButtons()
 {
-    connect(ui->takeOver, &QPushButton::clicked, this, [this] {
+    connect(m_ui->takeOver, &QPushButton::clicked, this, [this] {
         const Mirror mirror = ReadMirror();
         TakeOverZones(TakeFields(), mirror.D, mirror.F);
         RebuildMask();
     });
-    for (const QPushButton* const unfinished : {ui->editZone, ui->saveMask, ui->chooseMask}) {
+    for (const QPushButton* const unfinished : {m_ui->editZone, m_ui->saveMask, m_ui->chooseMask}) {
         connect(unfinished, &QPushButton::clicked, this,
-                [this] { document.Host().ShowMessage(kUnfinishedMessage); });
+                [this] { m_document.Host().ShowMessage(kUnfinishedMessage); });
     }
 }
 
 void CPropertyPageCouder1::RebuildColumnsAndRows()
 {
     const Mirror mirror = ReadMirror();
-    ui->zones->SetColumns(CalculatedZones(TakeFields(), mirror.D, mirror.F).Columns(), g_nLanguage);
+    m_ui->zones->SetColumns(CalculatedZones(TakeFields(), mirror.D, mirror.F).Columns(), g_nLanguage);
     RebuildRows();
 }
 
@@ -117,13 +117,13 @@ void CPropertyPageCouder1::RebuildRows()
 {
     const Mirror mirror = ReadMirror();
     const ZoneFields fields = TakeFields();
-    ui->optimum->setText(ToQString(OptimumZonesText(fields, mirror.D, mirror.F)));
-    ShowRows(*ui->zones, CalculatedZones(fields, mirror.D, mirror.F));
+    m_ui->optimum->setText(ToQString(OptimumZonesText(fields, mirror.D, mirror.F)));
+    ShowRows(*m_ui->zones, CalculatedZones(fields, mirror.D, mirror.F));
 }
 
 void CPropertyPageCouder1::RebuildMask()
 {
     const ZoneTable mask = MaskZones(g_pCurrentMask.get());
-    ui->maskZones->SetColumns(mask.Columns(), g_nLanguage);
-    ShowRows(*ui->maskZones, mask);
+    m_ui->maskZones->SetColumns(mask.Columns(), g_nLanguage);
+    ShowRows(*m_ui->maskZones, mask);
 }

@@ -37,6 +37,6 @@ private:
     void RebuildRows();
     void RebuildMask();
 
-    COrrevaDoc& document;
-    std::unique_ptr<Ui::PropertyPageCouder1> ui;
+    COrrevaDoc& m_document;
+    std::unique_ptr<Ui::PropertyPageCouder1> m_ui;
 };

@@ -21,5 +21,5 @@ signals:
     void MasksAsked();
 
 private:
-    std::unique_ptr<Ui::PropertyPageCouder5> ui;
+    std::unique_ptr<Ui::PropertyPageCouder5> m_ui;
 };

@@ -19,5 +19,5 @@ public:
     void Store() override;
 
 private:
-    std::unique_ptr<Ui::PropertyPageMatchingRonchi1> ui;
+    std::unique_ptr<Ui::PropertyPageMatchingRonchi1> m_ui;
 };

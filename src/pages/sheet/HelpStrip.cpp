@@ -19,8 +19,8 @@ CHelpStrip::CHelpStrip(QWidget* parent) : QWidget(parent)
         return picture;
     };
     add(kInfoControl, ":/icons/info.svg", tr("Info"));
-    help = add(kHelpControl, ":/icons/question.svg", tr("Help on this page"));
+    m_help = add(kHelpControl, ":/icons/question.svg", tr("Help on this page"));
     column->addStretch();
 }
 
-void CHelpStrip::setHelpControl(int controlId) { help->setProperty(kControlId, controlId); }
+void CHelpStrip::setHelpControl(int controlId) { m_help->setProperty(kControlId, controlId); }

@@ -18,5 +18,5 @@ public:
     void setHelpControl(int controlId);
 
 private:
-    CHandCursorStatic* help;
+    CHandCursorStatic* m_help;
 };

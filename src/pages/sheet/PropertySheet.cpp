@@ -50,33 +50,33 @@ QWidget* FirstField(QWidget* page)
 CPropertySheet::CPropertySheet(const QString& caption, QWidget* parent) : QDialog(parent)
 {
     setWindowTitle(caption);
-    tabs = new QTabWidget(this);
-    heading = new QLabel(this);
-    heading->setObjectName("heading");
-    heading->setStyleSheet("font-weight: bold");
-    heading->hide();
-    body = new QHBoxLayout;
-    body->addWidget(tabs, 1);
+    m_tabs = new QTabWidget(this);
+    m_heading = new QLabel(this);
+    m_heading->setObjectName("heading");
+    m_heading->setStyleSheet("font-weight: bold");
+    m_heading->hide();
+    m_body = new QHBoxLayout;
+    m_body->addWidget(m_tabs, 1);
 
-    buttonRow = new QHBoxLayout;
-    buttonRow->addStretch();
-    back = AddButton(tr("< &Back"), "back", &CPropertySheet::OnBack);
-    next = AddButton(tr("&Next >"), "next", &CPropertySheet::OnNext);
-    finish = AddButton(tr("Finish"), "finish", &CPropertySheet::OnFinish);
-    ok = AddButton(tr("OK"), "ok", &CPropertySheet::accept);
-    cancel = AddButton(tr("Cancel"), "cancel", &CPropertySheet::reject);
-    apply = AddButton(tr("&Apply"), "apply", &CPropertySheet::Apply);
-    apply->setEnabled(false);
-    for (QPushButton* const button : {back, next, finish}) {
+    m_buttonRow = new QHBoxLayout;
+    m_buttonRow->addStretch();
+    m_back = AddButton(tr("< &Back"), "back", &CPropertySheet::OnBack);
+    m_next = AddButton(tr("&Next >"), "next", &CPropertySheet::OnNext);
+    m_finish = AddButton(tr("Finish"), "finish", &CPropertySheet::OnFinish);
+    m_ok = AddButton(tr("OK"), "ok", &CPropertySheet::accept);
+    m_cancel = AddButton(tr("Cancel"), "cancel", &CPropertySheet::reject);
+    m_apply = AddButton(tr("&Apply"), "apply", &CPropertySheet::Apply);
+    m_apply->setEnabled(false);
+    for (QPushButton* const button : {m_back, m_next, m_finish}) {
         button->hide();
     }
-    ok->setDefault(true);
+    m_ok->setDefault(true);
 
     auto* const column = new QVBoxLayout(this);
-    column->addWidget(heading);
-    column->addLayout(body, 1);
-    column->addLayout(buttonRow);
-    connect(tabs, &QTabWidget::currentChanged, this, [this](int index) {
+    column->addWidget(m_heading);
+    column->addLayout(m_body, 1);
+    column->addLayout(m_buttonRow);
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int index) {
         const QSize before = size();
         Activate(index);
         if (size() != before) {
@@ -92,7 +92,7 @@ void CPropertySheet::BindPageKeys()
 {
     const auto bind = [this](QKeyCombination keys, int step) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, step] {
-            if (!wizard) {
+            if (!m_wizard) {
                 SetActivePage((ActiveIndex() + step + PageCount()) % PageCount());
             }
         });
@@ -111,45 +111,45 @@ QPushButton* CPropertySheet::AddButton(const QString& text, const char* name,
     button->setObjectName(name);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, pressed);
-    buttonRow->addWidget(button);
+    m_buttonRow->addWidget(button);
     return button;
 }
 
 void CPropertySheet::AddPage(const QString& title, MakePage make)
 {
-    entries.push_back({std::move(make), nullptr});
-    auto* const place = new QWidget(tabs);
+    m_entries.push_back({std::move(make), nullptr});
+    auto* const place = new QWidget(m_tabs);
     auto* const fill = new QVBoxLayout(place);
     fill->setContentsMargins(0, 0, 0, 0);
-    const QSignalBlocker quiet(tabs); // the first page, too, waits until the sheet is shown
-    tabs->addTab(place, title);
+    const QSignalBlocker quiet(m_tabs); // the first page, too, waits until the sheet is shown
+    m_tabs->addTab(place, title);
 }
 
 void CPropertySheet::RemovePage(int index)
 {
-    QWidget* const place = tabs->widget(index);
-    entries.erase(entries.begin() + index);
-    tabs->removeTab(index);
+    QWidget* const place = m_tabs->widget(index);
+    m_entries.erase(m_entries.begin() + index);
+    m_tabs->removeTab(index);
     place->deleteLater();
 }
 
 void CPropertySheet::SetWizardMode()
 {
-    wizard = true;
-    tabs->tabBar()->hide();
-    heading->show();
-    for (QPushButton* const button : {ok, apply}) {
+    m_wizard = true;
+    m_tabs->tabBar()->hide();
+    m_heading->show();
+    for (QPushButton* const button : {m_ok, m_apply}) {
         button->hide();
     }
     ShowWizardButtons(kWizardNext);
 }
 
-int CPropertySheet::ActiveIndex() const { return tabs->currentIndex(); }
+int CPropertySheet::ActiveIndex() const { return m_tabs->currentIndex(); }
 
 void CPropertySheet::SetActivePage(int index)
 {
     if (index >= 0 && index < PageCount()) {
-        tabs->setCurrentIndex(index);
+        m_tabs->setCurrentIndex(index);
     }
 }
 
@@ -157,13 +157,13 @@ void CPropertySheet::AddPanel(QWidget* panel)
 {
     panel->setParent(this);
     panel->setFixedWidth(kPanelWidth);
-    body->addWidget(panel);
+    m_body->addWidget(panel);
 }
 
 void CPropertySheet::showEvent(QShowEvent* event)
 {
     if (!event->spontaneous()) { // a window that comes back from its icon is no new visit
-        Activate(tabs->currentIndex());
+        Activate(m_tabs->currentIndex());
     }
     QDialog::showEvent(event);
 }
@@ -174,14 +174,14 @@ void CPropertySheet::Activate(int index)
     if (index < 0 || index >= PageCount()) {
         return;
     }
-    Entry& entry = entries[static_cast<std::size_t>(index)];
+    Entry& entry = m_entries[static_cast<std::size_t>(index)];
     if (entry.page == nullptr) {
-        Build(entry, *tabs->widget(index));
+        Build(entry, *m_tabs->widget(index));
     }
-    heading->setText(tabs->tabText(index));
+    m_heading->setText(m_tabs->tabText(index));
     entry.page->OnSetActive();
     // The keyboard was on a page that went to the back, or nowhere yet.
-    if (focusWidget() == nullptr || focusWidget() == tabs->widget(index)) {
+    if (focusWidget() == nullptr || focusWidget() == m_tabs->widget(index)) {
         if (QWidget* const field = FirstField(entry.page)) {
             field->setFocus(Qt::TabFocusReason); // which selects what stands there, to type over it
         }
@@ -192,7 +192,7 @@ void CPropertySheet::Build(Entry& entry, QWidget& place)
 {
     entry.page = entry.make(&place);
     place.layout()->addWidget(entry.page);
-    connect(entry.page, &CPropertyPage::Modified, this, [this] { apply->setEnabled(true); });
+    connect(entry.page, &CPropertyPage::Modified, this, [this] { m_apply->setEnabled(true); });
     connect(entry.page, &CPropertyPage::WizardButtons, this, &CPropertySheet::ShowWizardButtons);
     entry.page->show();
     GrowFor(entry.page);
@@ -240,7 +240,7 @@ void CPropertySheet::PutButtonsLast()
     while (last != this && !TakesTab(last)) {
         last = last->previousInFocusChain();
     }
-    for (QPushButton* const button : {back, next, finish, ok, cancel, apply}) {
+    for (QPushButton* const button : {m_back, m_next, m_finish, m_ok, m_cancel, m_apply}) {
         setTabOrder(last, button);
         last = button;
     }
@@ -248,17 +248,17 @@ void CPropertySheet::PutButtonsLast()
 
 void CPropertySheet::Apply()
 {
-    for (const Entry& entry : entries) {
+    for (const Entry& entry : m_entries) {
         if (entry.page != nullptr) {
             entry.page->OnApply();
         }
     }
-    apply->setEnabled(false);
+    m_apply->setEnabled(false);
 }
 
 void CPropertySheet::accept()
 {
-    if (!wizard) {
+    if (!m_wizard) {
         Apply();
     }
     QDialog::accept();
@@ -266,34 +266,34 @@ void CPropertySheet::accept()
 
 void CPropertySheet::OnBack()
 {
-    entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardBack();
+    m_entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardBack();
     SetActivePage(ActiveIndex() - 1);
 }
 
 void CPropertySheet::OnNext()
 {
-    entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardNext();
+    m_entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardNext();
     SetActivePage(ActiveIndex() + 1);
 }
 
 void CPropertySheet::OnFinish()
 {
-    entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardFinish();
+    m_entries[static_cast<std::size_t>(ActiveIndex())].page->OnWizardFinish();
     accept();
 }
 
 void CPropertySheet::ShowWizardButtons(unsigned buttons)
 {
-    if (!wizard) {
+    if (!m_wizard) {
         return;
     }
     const bool finishes = (buttons & kWizardFinish) != 0;
-    QPushButton* const forward = finishes ? finish : next;
-    QPushButton* const other = finishes ? next : finish;
-    back->show();
-    back->setEnabled((buttons & kWizardBack) != 0);
+    QPushButton* const forward = finishes ? m_finish : m_next;
+    QPushButton* const other = finishes ? m_next : m_finish;
+    m_back->show();
+    m_back->setEnabled((buttons & kWizardBack) != 0);
     if (!finishes) {
-        next->setEnabled((buttons & kWizardNext) != 0);
+        m_next->setEnabled((buttons & kWizardNext) != 0);
     }
     forward->show();
     forward->setDefault(true);

@@ -29,10 +29,10 @@ public:
     void SetWizardMode();
     void SetActivePage(int index);
 
-    int PageCount() const { return static_cast<int>(entries.size()); }
+    int PageCount() const { return static_cast<int>(m_entries.size()); }
     int ActiveIndex() const;
     /// The page at an index, null until it is first visited.
-    CPropertyPage* Page(int index) const { return entries.at(static_cast<std::size_t>(index)).page; }
+    CPropertyPage* Page(int index) const { return m_entries.at(static_cast<std::size_t>(index)).page; }
 
     /// Widens the sheet by a strip at the right of the pages that holds `panel`.
     void AddPanel(QWidget* panel);
@@ -69,16 +69,16 @@ private:
     void OnFinish();
     void ShowWizardButtons(unsigned buttons);
 
-    std::vector<Entry> entries;
-    QTabWidget* tabs;
-    QLabel* heading; ///< the page's title where no tab shows it: in the wizard
-    QHBoxLayout* body;
-    QHBoxLayout* buttonRow;
-    QPushButton* back;
-    QPushButton* next;
-    QPushButton* finish;
-    QPushButton* ok;
-    QPushButton* cancel;
-    QPushButton* apply;
-    bool wizard = false;
+    std::vector<Entry> m_entries;
+    QTabWidget* m_tabs;
+    QLabel* m_heading; ///< the page's title where no tab shows it: in the wizard
+    QHBoxLayout* m_body;
+    QHBoxLayout* m_buttonRow;
+    QPushButton* m_back;
+    QPushButton* m_next;
+    QPushButton* m_finish;
+    QPushButton* m_ok;
+    QPushButton* m_cancel;
+    QPushButton* m_apply;
+    bool m_wizard = false;
 };

@@ -12,12 +12,12 @@
 #include <utility>
 
 CTelescopePage::CTelescopePage(COrrevaDoc& doc, unsigned buttons, QWidget* parent)
-    : CPropertyPage(parent), document(doc), wizardButtons(buttons)
+    : CPropertyPage(parent), m_document(doc), m_wizardButtons(buttons)
 {}
 
-COrrevaData& CTelescopePage::Record() const { return *document.active_record; }
+COrrevaData& CTelescopePage::Record() const { return *m_document.active_record; }
 
-void CTelescopePage::Recalculate() { document.Recalculate(); }
+void CTelescopePage::Recalculate() { m_document.Recalculate(); }
 
 void CTelescopePage::Changed()
 {

@@ -20,7 +20,7 @@ public:
     /// `wizardButtons`, a set of WizardButton, is posted whenever the page comes to the front.
     CTelescopePage(COrrevaDoc& document, unsigned wizardButtons, QWidget* parent);
 
-    void OnSetActive() override { emit WizardButtons(wizardButtons); }
+    void OnSetActive() override { emit WizardButtons(m_wizardButtons); }
 
 protected:
     COrrevaData& Record() const;
@@ -46,8 +46,8 @@ protected:
     /// Shows a text that the user did not type.
     static void ShowText(QLineEdit* edit, const std::string& text);
 
-    COrrevaDoc& document;
+    COrrevaDoc& m_document;
 
 private:
-    const unsigned wizardButtons;
+    const unsigned m_wizardButtons;
 };

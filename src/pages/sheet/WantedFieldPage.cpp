@@ -13,11 +13,11 @@ void CWantedFieldPage::OnSetActive()
 
 void CWantedFieldPage::BindWantedField(QLineEdit* millimetres, QLineEdit* degrees, QAbstractButton* reset)
 {
-    wantedField = millimetres;
-    wantedDegrees = degrees;
+    m_wantedField = millimetres;
+    m_wantedDegrees = degrees;
     ShowWantedField(ShowNumber(Record(), kWantedField));
-    connect(wantedField, &QLineEdit::textChanged, this, &CWantedFieldPage::ShowDegrees);
-    BindData({wantedField});
+    connect(m_wantedField, &QLineEdit::textChanged, this, &CWantedFieldPage::ShowDegrees);
+    BindData({m_wantedField});
     connect(reset, &QAbstractButton::clicked, this, [this] {
         ShowWantedField(ResetNumber(Record(), kWantedField));
         Changed();
@@ -26,11 +26,11 @@ void CWantedFieldPage::BindWantedField(QLineEdit* millimetres, QLineEdit* degree
 
 void CWantedFieldPage::ShowWantedField(const std::string& text)
 {
-    ShowText(wantedField, text);
+    ShowText(m_wantedField, text);
     ShowDegrees();
 }
 
 void CWantedFieldPage::ShowDegrees()
 {
-    ShowText(wantedDegrees, WantedFieldDegrees(Record(), TextOf(wantedField)));
+    ShowText(m_wantedDegrees, WantedFieldDegrees(Record(), TextOf(m_wantedField)));
 }

@@ -21,6 +21,6 @@ private:
     void ShowWantedField(const std::string& text);
     void ShowDegrees();
 
-    QLineEdit* wantedField = nullptr;
-    QLineEdit* wantedDegrees = nullptr;
+    QLineEdit* m_wantedField = nullptr;
+    QLineEdit* m_wantedDegrees = nullptr;
 };

@@ -6,23 +6,24 @@
 #include "ui_ComponentDialog.h"
 
 CComponentDialog::CComponentDialog(COrrevaData& data, std::size_t row, QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::ComponentDialog>()), record(data), component(row)
+    : QDialog(parent), m_ui(std::make_unique<Ui::ComponentDialog>()), m_record(data), m_component(row)
 {
-    ui->setupUi(this);
-    const ComponentTexts texts = ReadComponent(record, component);
-    ui->weight->setText(ToQString(texts.weight));
-    ui->balance->setText(ToQString(texts.balance));
-    ui->weight->selectAll();
-    connect(ui->resetWeight, &QAbstractButton::clicked, this,
-            [this] { ui->weight->setText(ToQString(ResetComponentWeight(record, component))); });
-    connect(ui->resetBalance, &QAbstractButton::clicked, this,
-            [this] { ui->balance->setText(ToQString(ResetComponentBalance(record, component))); });
+    m_ui->setupUi(this);
+    const ComponentTexts texts = ReadComponent(m_record, m_component);
+    m_ui->weight->setText(ToQString(texts.weight));
+    m_ui->balance->setText(ToQString(texts.balance));
+    m_ui->weight->selectAll();
+    connect(m_ui->resetWeight, &QAbstractButton::clicked, this,
+            [this] { m_ui->weight->setText(ToQString(ResetComponentWeight(m_record, m_component))); });
+    connect(m_ui->resetBalance, &QAbstractButton::clicked, this,
+            [this] { m_ui->balance->setText(ToQString(ResetComponentBalance(m_record, m_component))); });
 }
 
 CComponentDialog::~CComponentDialog() = default;
 
 void CComponentDialog::accept()
 {
-    StoreComponent(record, component, {FromQString(ui->weight->text()), FromQString(ui->balance->text())});
+    StoreComponent(m_record, m_component,
+                   {FromQString(m_ui->weight->text()), FromQString(m_ui->balance->text())});
     QDialog::accept();
 }

@@ -24,7 +24,7 @@ public:
     void accept() override;
 
 private:
-    std::unique_ptr<Ui::ComponentDialog> ui;
-    COrrevaData& record;
-    const std::size_t component;
+    std::unique_ptr<Ui::ComponentDialog> m_ui;
+    COrrevaData& m_record;
+    const std::size_t m_component;
 };

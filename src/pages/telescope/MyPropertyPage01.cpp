@@ -6,21 +6,21 @@
 #include "ui_MyPropertyPage01.h"
 
 CMyPropertyPage01::CMyPropertyPage01(COrrevaDoc& doc, QWidget* parent)
-    : CTelescopePage(doc, kWizardNext, parent), ui(std::make_unique<Ui::MyPropertyPage01>())
+    : CTelescopePage(doc, kWizardNext, parent), m_ui(std::make_unique<Ui::MyPropertyPage01>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     BindHelpStrip();
-    ShowText(ui->title, Record().GetTitle().GetText());
-    ui->remarks->setPlainText(ToQString(Record().GetDescription().GetText()));
-    BindData({ui->title});
-    connect(ui->remarks, &QPlainTextEdit::textChanged, this, &CMyPropertyPage01::Changed);
+    ShowText(m_ui->title, Record().GetTitle().GetText());
+    m_ui->remarks->setPlainText(ToQString(Record().GetDescription().GetText()));
+    BindData({m_ui->title});
+    connect(m_ui->remarks, &QPlainTextEdit::textChanged, this, &CMyPropertyPage01::Changed);
 }
 
 CMyPropertyPage01::~CMyPropertyPage01() = default;
 
 void CMyPropertyPage01::Store()
 {
-    const std::string title = TextOf(ui->title);
+    const std::string title = TextOf(m_ui->title);
     Record().SetTitle(title.empty() ? "Unbenannt" : title.c_str()); // in both languages
-    Record().SetDescription(FromTextDocument(*ui->remarks->document()).c_str());
+    Record().SetDescription(FromTextDocument(*m_ui->remarks->document()).c_str());
 }

@@ -23,5 +23,5 @@ public:
     void OnWizardFinish() override {}
 
 private:
-    std::unique_ptr<Ui::MyPropertyPage01> ui;
+    std::unique_ptr<Ui::MyPropertyPage01> m_ui;
 };

@@ -27,5 +27,5 @@ private:
     /// The name of the glass goes to the record at once, its density with the other fields.
     void SelectMaterial(int index);
 
-    std::unique_ptr<Ui::MyPropertyPage02> ui;
+    std::unique_ptr<Ui::MyPropertyPage02> m_ui;
 };

@@ -28,8 +28,8 @@ private:
     std::int32_t Type() const;
     void EnableFields();
 
-    std::array<QLineEdit*, kFocuserNumbers> edits{};
-    std::array<QRadioButton*, 3> types{};
-    std::int32_t typeOfRecord;
-    std::unique_ptr<Ui::MyPropertyPage03> ui;
+    std::array<QLineEdit*, kFocuserNumbers> m_edits{};
+    std::array<QRadioButton*, 3> m_types{};
+    std::int32_t m_typeOfRecord;
+    std::unique_ptr<Ui::MyPropertyPage03> m_ui;
 };

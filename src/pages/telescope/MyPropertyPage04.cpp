@@ -7,17 +7,18 @@
 #include "ui_MyPropertyPage04.h"
 
 CMyPropertyPage04::CMyPropertyPage04(COrrevaDoc& doc, QWidget* parent)
-    : CWantedFieldPage(doc, kWizardBack | kWizardFinish, parent), ui(std::make_unique<Ui::MyPropertyPage04>())
+    : CWantedFieldPage(doc, kWizardBack | kWizardFinish, parent),
+      m_ui(std::make_unique<Ui::MyPropertyPage04>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     BindHelpStrip();
-    ShowText(ui->minorAxis, ReadSecondary(Record()).minor_axis);
-    ui->results->SetColumns(kSecondaryColumns, g_nLanguage);
+    ShowText(m_ui->minorAxis, ReadSecondary(Record()).minor_axis);
+    m_ui->results->SetColumns(kSecondaryColumns, g_nLanguage);
 
-    BindWantedField(ui->wantedField, ui->wantedDegrees, ui->resetWantedField);
-    BindData({ui->minorAxis});
-    BindReset(ui->resetMinorAxis, ui->minorAxis, kSecondaryMinorAxis);
-    connect(ui->details, &QCheckBox::toggled, this, &CMyPropertyPage04::Refresh);
+    BindWantedField(m_ui->wantedField, m_ui->wantedDegrees, m_ui->resetWantedField);
+    BindData({m_ui->minorAxis});
+    BindReset(m_ui->resetMinorAxis, m_ui->minorAxis, kSecondaryMinorAxis);
+    connect(m_ui->details, &QCheckBox::toggled, this, &CMyPropertyPage04::Refresh);
     Refresh();
 }
 
@@ -25,14 +26,15 @@ CMyPropertyPage04::~CMyPropertyPage04() = default;
 
 SecondaryTexts CMyPropertyPage04::Texts() const
 {
-    return {TextOf(ui->wantedField), TextOf(ui->wantedDegrees), TextOf(ui->minorAxis)};
+    return {TextOf(m_ui->wantedField), TextOf(m_ui->wantedDegrees), TextOf(m_ui->minorAxis)};
 }
 
 void CMyPropertyPage04::Store() { StoreSecondary(Record(), Texts()); }
 
 void CMyPropertyPage04::Refresh()
 {
-    const SecondaryResult result = AnalyseSecondary(Record(), Texts(), ui->details->isChecked(), g_nLanguage);
-    ui->results->SetRows(result.rows);
-    ui->verdict->setText(ToQString(result.verdict));
+    const SecondaryResult result =
+        AnalyseSecondary(Record(), Texts(), m_ui->details->isChecked(), g_nLanguage);
+    m_ui->results->SetRows(result.rows);
+    m_ui->verdict->setText(ToQString(result.verdict));
 }

@@ -27,5 +27,5 @@ protected:
 private:
     SecondaryTexts Texts() const;
 
-    std::unique_ptr<Ui::MyPropertyPage04> ui;
+    std::unique_ptr<Ui::MyPropertyPage04> m_ui;
 };

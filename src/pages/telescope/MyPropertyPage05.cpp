@@ -8,12 +8,12 @@
 #include "ui_MyPropertyPage05.h"
 
 CMyPropertyPage05::CMyPropertyPage05(COrrevaDoc& doc, QWidget* parent)
-    : CTelescopePage(doc, kWizardBack | kWizardNext, parent), ui(std::make_unique<Ui::MyPropertyPage05>())
+    : CTelescopePage(doc, kWizardBack | kWizardNext, parent), m_ui(std::make_unique<Ui::MyPropertyPage05>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     BindHelpStrip();
-    ui->results->SetColumns(kCellColumns, g_nLanguage);
-    connect(ui->recompute, &QPushButton::clicked, this, &CMyPropertyPage05::Analyse);
+    m_ui->results->SetColumns(kCellColumns, g_nLanguage);
+    connect(m_ui->recompute, &QPushButton::clicked, this, &CMyPropertyPage05::Analyse);
 }
 
 CMyPropertyPage05::~CMyPropertyPage05() = default;
@@ -21,6 +21,6 @@ CMyPropertyPage05::~CMyPropertyPage05() = default;
 void CMyPropertyPage05::Analyse()
 {
     const CellFigures figures = ComputeCell(Record());
-    ui->results->SetRows(CellRows(figures, g_nLanguage));
-    ui->verdict->setText(ToQString(CellVerdict(figures, g_nLanguage)));
+    m_ui->results->SetRows(CellRows(figures, g_nLanguage));
+    m_ui->verdict->setText(ToQString(CellVerdict(figures, g_nLanguage)));
 }

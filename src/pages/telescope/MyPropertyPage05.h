@@ -20,5 +20,5 @@ public:
 private:
     void Analyse();
 
-    std::unique_ptr<Ui::MyPropertyPage05> ui;
+    std::unique_ptr<Ui::MyPropertyPage05> m_ui;
 };

@@ -27,5 +27,5 @@ protected:
 private:
     TubeTexts Texts() const;
 
-    std::unique_ptr<Ui::MyPropertyPage06> ui;
+    std::unique_ptr<Ui::MyPropertyPage06> m_ui;
 };

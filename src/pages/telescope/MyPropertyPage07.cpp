@@ -15,12 +15,12 @@ namespace {
 class EyepieceNames : public QAbstractListModel {
 public:
     EyepieceNames(const std::vector<Eyepiece>& all, const std::vector<std::size_t>& rows, QObject* parent)
-        : QAbstractListModel(parent), eyepieces(all), order(rows)
+        : QAbstractListModel(parent), m_eyepieces(all), m_order(rows)
     {}
 
     int rowCount(const QModelIndex& parent = {}) const override
     {
-        return parent.isValid() ? 0 : static_cast<int>(order.size());
+        return parent.isValid() ? 0 : static_cast<int>(m_order.size());
     }
 
     QVariant data(const QModelIndex& index, int role) const override
@@ -28,31 +28,31 @@ public:
         if (role != Qt::DisplayRole) {
             return {};
         }
-        return ToQString(eyepieces[order[static_cast<std::size_t>(index.row())]].name);
+        return ToQString(m_eyepieces[m_order[static_cast<std::size_t>(index.row())]].name);
     }
 
 private:
-    const std::vector<Eyepiece>& eyepieces;
-    const std::vector<std::size_t>& order;
+    const std::vector<Eyepiece>& m_eyepieces;
+    const std::vector<std::size_t>& m_order;
 };
 
 } // namespace
 
 CMyPropertyPage07::CMyPropertyPage07(COrrevaDoc& doc, QWidget* parent)
-    : CTelescopePage(doc, kWizardNext, parent), eyepieces(LoadEyepieces("eyepiece.dat")),
-      order(SortEyepieces(eyepieces)), ui(std::make_unique<Ui::MyPropertyPage07>())
+    : CTelescopePage(doc, kWizardNext, parent), m_eyepieces(LoadEyepieces("eyepiece.dat")),
+      m_order(SortEyepieces(m_eyepieces)), m_ui(std::make_unique<Ui::MyPropertyPage07>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     BindHelpStrip();
     // For a list of any length: rows of one height, in the form's kind of drop-down that scrolls; the other
     // kind measures every row before it opens.
-    if (auto* const list = qobject_cast<QListView*>(ui->eyepiece->view())) {
+    if (auto* const list = qobject_cast<QListView*>(m_ui->eyepiece->view())) {
         list->setUniformItemSizes(true);
     }
-    ui->eyepiece->setModel(new EyepieceNames(eyepieces, order, this));
-    ui->eyepiece->setCurrentIndex(-1);
-    ui->results->SetColumns(kEyepieceColumns, g_nLanguage);
-    connect(ui->eyepiece, &QComboBox::activated, this, &CMyPropertyPage07::ShowEyepiece);
+    m_ui->eyepiece->setModel(new EyepieceNames(m_eyepieces, m_order, this));
+    m_ui->eyepiece->setCurrentIndex(-1);
+    m_ui->results->SetColumns(kEyepieceColumns, g_nLanguage);
+    connect(m_ui->eyepiece, &QComboBox::activated, this, &CMyPropertyPage07::ShowEyepiece);
 }
 
 CMyPropertyPage07::~CMyPropertyPage07() = default;
@@ -60,7 +60,7 @@ CMyPropertyPage07::~CMyPropertyPage07() = default;
 void CMyPropertyPage07::ShowEyepiece(int index)
 {
     if (index >= 0) {
-        const Eyepiece& eyepiece = eyepieces[order[static_cast<std::size_t>(index)]];
-        ui->results->SetRows(EyepieceRows(Record(), eyepiece, g_nLanguage));
+        const Eyepiece& eyepiece = m_eyepieces[m_order[static_cast<std::size_t>(index)]];
+        m_ui->results->SetRows(EyepieceRows(Record(), eyepiece, g_nLanguage));
     }
 }

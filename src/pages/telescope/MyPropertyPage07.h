@@ -23,7 +23,7 @@ private:
     /// `index` counts the rows of the drop-down.
     void ShowEyepiece(int index);
 
-    const std::vector<Eyepiece> eyepieces; ///< in the order of the file
-    const std::vector<std::size_t> order;  ///< the row of the drop-down -> the eyepiece
-    std::unique_ptr<Ui::MyPropertyPage07> ui;
+    const std::vector<Eyepiece> m_eyepieces; ///< in the order of the file
+    const std::vector<std::size_t> m_order;  ///< the row of the drop-down -> the eyepiece
+    std::unique_ptr<Ui::MyPropertyPage07> m_ui;
 };

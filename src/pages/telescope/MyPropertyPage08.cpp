@@ -9,13 +9,13 @@
 #include "ui_MyPropertyPage08.h"
 
 CMyPropertyPage08::CMyPropertyPage08(COrrevaDoc& doc, QWidget* parent)
-    : CTelescopePage(doc, kWizardBack | kWizardFinish, parent), ui(std::make_unique<Ui::MyPropertyPage08>())
+    : CTelescopePage(doc, kWizardBack | kWizardFinish, parent), m_ui(std::make_unique<Ui::MyPropertyPage08>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     BindHelpStrip();
-    ui->results->SetColumns(kBalanceColumns, g_nLanguage);
-    connect(ui->edit, &QPushButton::clicked, this, &CMyPropertyPage08::EditComponent);
-    connect(ui->suggest, &QPushButton::clicked, this, &CMyPropertyPage08::Suggest);
+    m_ui->results->SetColumns(kBalanceColumns, g_nLanguage);
+    connect(m_ui->edit, &QPushButton::clicked, this, &CMyPropertyPage08::EditComponent);
+    connect(m_ui->suggest, &QPushButton::clicked, this, &CMyPropertyPage08::Suggest);
     Refresh();
 }
 
@@ -29,16 +29,16 @@ void CMyPropertyPage08::OnSetActive()
 
 void CMyPropertyPage08::Refresh()
 {
-    ui->results->SetRows(BalanceRows(Record(), document.mirror_back_position, g_nLanguage));
-    ui->totalWeight->setText(ToQString(TotalWeightText(Record())));
-    ui->centerOfGravity->setText(ToQString(CenterOfGravityText(Record(), g_nLanguage)));
+    m_ui->results->SetRows(BalanceRows(Record(), m_document.mirror_back_position, g_nLanguage));
+    m_ui->totalWeight->setText(ToQString(TotalWeightText(Record())));
+    m_ui->centerOfGravity->setText(ToQString(CenterOfGravityText(Record(), g_nLanguage)));
 }
 
 void CMyPropertyPage08::EditComponent()
 {
-    const int row = ui->results->SelectedRow();
+    const int row = m_ui->results->SelectedRow();
     if (const Bilingual* const message = BalanceEditMessage(row)) {
-        document.Host().ShowMessage(message->In(g_nLanguage));
+        m_document.Host().ShowMessage(message->In(g_nLanguage));
         return;
     }
     CComponentDialog(Record(), static_cast<std::size_t>(row), this).exec();
@@ -47,7 +47,7 @@ void CMyPropertyPage08::EditComponent()
 
 void CMyPropertyPage08::Suggest()
 {
-    if (document.Host().AskYesNo(kSuggestQuestion.In(g_nLanguage))) {
+    if (m_document.Host().AskYesNo(kSuggestQuestion.In(g_nLanguage))) {
         SuggestBalance(Record());
         Changed();
     }

@@ -26,5 +26,5 @@ private:
     void EditComponent();
     void Suggest();
 
-    std::unique_ptr<Ui::MyPropertyPage08> ui;
+    std::unique_ptr<Ui::MyPropertyPage08> m_ui;
 };

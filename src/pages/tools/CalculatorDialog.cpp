@@ -6,18 +6,18 @@
 #include "ui_CalculatorDialog.h"
 
 CCalculatorDialog::CCalculatorDialog(QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::CalculatorDialog>())
+    : QDialog(parent), m_ui(std::make_unique<Ui::CalculatorDialog>())
 {
-    ui->setupUi(this);
-    connect(ui->input, &QPlainTextEdit::textChanged, this, &CCalculatorDialog::OnChangeInput);
+    m_ui->setupUi(this);
+    connect(m_ui->input, &QPlainTextEdit::textChanged, this, &CCalculatorDialog::OnChangeInput);
 }
 
 CCalculatorDialog::~CCalculatorDialog() = default;
 
 void CCalculatorDialog::OnChangeInput()
 {
-    m_strInput = FromTextDocument(*ui->input->document());
+    m_strInput = FromTextDocument(*m_ui->input->document());
     m_strResult = Calculate(m_strInput).text;
-    ui->result->setText(ToQString(m_strResult));
-    ui->result->setCursorPosition(0); // a long number is read from its first digit
+    m_ui->result->setText(ToQString(m_strResult));
+    m_ui->result->setCursorPosition(0); // a long number is read from its first digit
 }

@@ -20,7 +20,7 @@ public:
 private:
     void OnChangeInput();
 
-    std::unique_ptr<Ui::CalculatorDialog> ui;
+    std::unique_ptr<Ui::CalculatorDialog> m_ui;
     std::string m_strInput;
     std::string m_strResult;
 };

@@ -21,7 +21,7 @@ private:
     void OnChangeMm();
     void OnChangeInch();
 
-    std::unique_ptr<Ui::InchDialog> ui;
+    std::unique_ptr<Ui::InchDialog> m_ui;
     std::string m_strMm;
     std::string m_strInch;
     std::string m_strMmResult; ///< what the mm are in inches

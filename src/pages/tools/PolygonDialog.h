@@ -25,7 +25,7 @@ private:
     void OnChange();
     void CopyValues();
 
-    std::unique_ptr<Ui::PolygonDialog> ui;
+    std::unique_ptr<Ui::PolygonDialog> m_ui;
     std::int32_t m_nType = -1; ///< row of the list
     std::string m_strDiameter;
     std::string m_strThickness;

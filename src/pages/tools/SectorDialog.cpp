@@ -6,37 +6,37 @@
 
 #include "ui_SectorDialog.h"
 
-CSectorDialog::CSectorDialog(QWidget* parent) : QDialog(parent), ui(std::make_unique<Ui::SectorDialog>())
+CSectorDialog::CSectorDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::SectorDialog>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     // The rows come in the language of the form and are sorted by it; what the index means does not follow.
-    ui->type->model()->sort(0);
-    ui->diameter->setText(kSectorStartDiameter);
-    ui->diameter->selectAll();
-    ui->type->setCurrentIndex(kSectorStartType);
-    ui->value->setText(kSectorStartValue);
+    m_ui->type->model()->sort(0);
+    m_ui->diameter->setText(kSectorStartDiameter);
+    m_ui->diameter->selectAll();
+    m_ui->type->setCurrentIndex(kSectorStartType);
+    m_ui->value->setText(kSectorStartValue);
     OnChange();
-    connect(ui->diameter, &QLineEdit::textChanged, this, &CSectorDialog::OnChange);
-    connect(ui->type, &QComboBox::currentIndexChanged, this, &CSectorDialog::OnChange);
-    connect(ui->value, &QLineEdit::textChanged, this, &CSectorDialog::OnChange);
+    connect(m_ui->diameter, &QLineEdit::textChanged, this, &CSectorDialog::OnChange);
+    connect(m_ui->type, &QComboBox::currentIndexChanged, this, &CSectorDialog::OnChange);
+    connect(m_ui->value, &QLineEdit::textChanged, this, &CSectorDialog::OnChange);
 }
 
 CSectorDialog::~CSectorDialog() = default;
 
 void CSectorDialog::OnChange()
 {
-    m_strDiameter = FromQString(ui->diameter->text());
-    m_strValue = FromQString(ui->value->text());
-    m_nType = ui->type->currentIndex();
+    m_strDiameter = FromQString(m_ui->diameter->text());
+    m_strValue = FromQString(m_ui->value->text());
+    m_nType = m_ui->type->currentIndex();
     CopyValues();
-    ui->m_wndSector->update();
+    m_ui->m_wndSector->update();
 }
 
 void CSectorDialog::CopyValues()
 {
-    ui->m_wndSector->m_dDiameter = TextToDouble(m_strDiameter.c_str());
-    ui->m_wndSector->m_dValue = TextToDouble(m_strValue.c_str());
-    ui->m_wndSector->m_nType = m_nType;
+    m_ui->m_wndSector->m_dDiameter = TextToDouble(m_strDiameter.c_str());
+    m_ui->m_wndSector->m_dValue = TextToDouble(m_strValue.c_str());
+    m_ui->m_wndSector->m_nType = m_nType;
 }
 
 void CSectorDialog::paintEvent(QPaintEvent* event)

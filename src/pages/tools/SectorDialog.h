@@ -25,7 +25,7 @@ private:
     void OnChange();
     void CopyValues();
 
-    std::unique_ptr<Ui::SectorDialog> ui;
+    std::unique_ptr<Ui::SectorDialog> m_ui;
     std::string m_strDiameter;
     std::string m_strValue;
     std::int32_t m_nType = -1; ///< row of the list

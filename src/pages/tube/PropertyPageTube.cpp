@@ -3,10 +3,11 @@
 #include "document/OrrevaDoc.h"
 #include "pages/sheet/HelpStrip.h"
 
-CPropertyPageTube::CPropertyPageTube(COrrevaDoc& doc, QWidget* parent) : CPropertyPage(parent), document(doc)
+CPropertyPageTube::CPropertyPageTube(COrrevaDoc& doc, QWidget* parent)
+    : CPropertyPage(parent), m_document(doc)
 {}
 
-COrrevaData& CPropertyPageTube::Record() { return *document.active_record; }
+COrrevaData& CPropertyPageTube::Record() { return *m_document.active_record; }
 
 void CPropertyPageTube::BindTubeHelp()
 {
@@ -18,6 +19,6 @@ void CPropertyPageTube::BindTubeHelp()
 void CPropertyPageTube::ShowChange()
 {
     emit Modified();
-    document.UpdateAllViews();
+    m_document.UpdateAllViews();
     emit RecordChanged();
 }

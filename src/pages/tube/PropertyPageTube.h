@@ -24,5 +24,5 @@ protected:
     /// What every change ends in: the page is marked modified, views and preview are refreshed.
     void ShowChange();
 
-    COrrevaDoc& document;
+    COrrevaDoc& m_document;
 };

@@ -7,19 +7,19 @@
 #include "ui_PropertyPageTube1.h"
 
 CPropertyPageTube1::CPropertyPageTube1(COrrevaDoc& doc, QWidget* parent)
-    : CPropertyPageTube(doc, parent), ui(std::make_unique<Ui::PropertyPageTube1>())
+    : CPropertyPageTube(doc, parent), m_ui(std::make_unique<Ui::PropertyPageTube1>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     BindTubeHelp();
     ShowMeasures();
-    (DesignOf(Record().GetTubeType()) == kSolidTube ? ui->solid : ui->truss)->setChecked(true);
+    (DesignOf(Record().GetTubeType()) == kSolidTube ? m_ui->solid : m_ui->truss)->setChecked(true);
 
-    for (const QLineEdit* const edit : {ui->insideDiameter, ui->distanceBack, ui->distanceFront}) {
+    for (const QLineEdit* const edit : {m_ui->insideDiameter, m_ui->distanceBack, m_ui->distanceFront}) {
         connect(edit, &QLineEdit::textEdited, this, &CPropertyPageTube1::Update);
     }
-    ConnectReset(ui->insideDiameterReset, ui->insideDiameter, kTubeInsideDiameter);
-    ConnectReset(ui->distanceBackReset, ui->distanceBack, kTubeDistanceBack);
-    ConnectReset(ui->distanceFrontReset, ui->distanceFront, kTubeDistanceFront);
+    ConnectReset(m_ui->insideDiameterReset, m_ui->insideDiameter, kTubeInsideDiameter);
+    ConnectReset(m_ui->distanceBackReset, m_ui->distanceBack, kTubeDistanceBack);
+    ConnectReset(m_ui->distanceFrontReset, m_ui->distanceFront, kTubeDistanceFront);
     ConnectWantedField();
     ConnectDesign();
 }
@@ -28,20 +28,20 @@ CPropertyPageTube1::~CPropertyPageTube1() = default;
 
 void CPropertyPageTube1::ConnectWantedField()
 {
-    connect(ui->wantedDegrees, &QLineEdit::textEdited, this, [this](const QString& degrees) {
-        ui->wantedField->setText(ToQString(WantedFieldMillimetres(Record(), FromQString(degrees))));
+    connect(m_ui->wantedDegrees, &QLineEdit::textEdited, this, [this](const QString& degrees) {
+        m_ui->wantedField->setText(ToQString(WantedFieldMillimetres(Record(), FromQString(degrees))));
         Update();
     });
-    connect(ui->wantedField, &QLineEdit::textEdited, this, [this] {
+    connect(m_ui->wantedField, &QLineEdit::textEdited, this, [this] {
         ShowDegrees();
         Update();
     });
-    ConnectReset(ui->wantedFieldReset, ui->wantedField, kWantedField);
-    connect(ui->wantedFieldReset, &QToolButton::clicked, this, &CPropertyPageTube1::ShowDegrees);
-    connect(ui->wantedDegreesReset, &QToolButton::clicked, this, [this] {
+    ConnectReset(m_ui->wantedFieldReset, m_ui->wantedField, kWantedField);
+    connect(m_ui->wantedFieldReset, &QToolButton::clicked, this, &CPropertyPageTube1::ShowDegrees);
+    connect(m_ui->wantedDegreesReset, &QToolButton::clicked, this, [this] {
         StoreMoonSizedField(Record());
         Record().ResetCaches();
-        ui->wantedField->setText(ToQString(ShowNumber(Record(), kWantedField)));
+        m_ui->wantedField->setText(ToQString(ShowNumber(Record(), kWantedField)));
         ShowDegrees();
         ShowChange();
     });
@@ -49,12 +49,12 @@ void CPropertyPageTube1::ConnectWantedField()
 
 void CPropertyPageTube1::ConnectDesign()
 {
-    connect(ui->solid, &QRadioButton::clicked, this, [this] {
-        document.show_box_and_cage = 0;
+    connect(m_ui->solid, &QRadioButton::clicked, this, [this] {
+        m_document.show_box_and_cage = 0;
         Update();
         emit DesignClicked();
     });
-    connect(ui->truss, &QRadioButton::clicked, this, [this] {
+    connect(m_ui->truss, &QRadioButton::clicked, this, [this] {
         Update();
         emit DesignClicked();
     });
@@ -71,25 +71,26 @@ void CPropertyPageTube1::ConnectReset(const QToolButton* button, QLineEdit* edit
 void CPropertyPageTube1::ShowMeasures()
 {
     const TubeMeasures texts = ReadTubeMeasures(Record());
-    ui->insideDiameter->setText(ToQString(texts.inside_diameter));
-    ui->distanceBack->setText(ToQString(texts.distance_back));
-    ui->distanceFront->setText(ToQString(texts.distance_front));
-    ui->wantedField->setText(ToQString(texts.wanted_field));
+    m_ui->insideDiameter->setText(ToQString(texts.inside_diameter));
+    m_ui->distanceBack->setText(ToQString(texts.distance_back));
+    m_ui->distanceFront->setText(ToQString(texts.distance_front));
+    m_ui->wantedField->setText(ToQString(texts.wanted_field));
     ShowDegrees();
 }
 
 void CPropertyPageTube1::ShowDegrees()
 {
-    ui->wantedDegrees->setText(ToQString(WantedFieldDegrees(Record(), FromQString(ui->wantedField->text()))));
+    m_ui->wantedDegrees->setText(
+        ToQString(WantedFieldDegrees(Record(), FromQString(m_ui->wantedField->text()))));
 }
 
 void CPropertyPageTube1::Update()
 {
     TubeMeasures texts;
-    texts.inside_diameter = FromQString(ui->insideDiameter->text());
-    texts.distance_back = FromQString(ui->distanceBack->text());
-    texts.distance_front = FromQString(ui->distanceFront->text());
-    texts.wanted_field = FromQString(ui->wantedField->text());
-    StoreTubeMeasures(Record(), texts, ui->solid->isChecked() ? kSolidTube : kTrussTube);
+    texts.inside_diameter = FromQString(m_ui->insideDiameter->text());
+    texts.distance_back = FromQString(m_ui->distanceBack->text());
+    texts.distance_front = FromQString(m_ui->distanceFront->text());
+    texts.wanted_field = FromQString(m_ui->wantedField->text());
+    StoreTubeMeasures(Record(), texts, m_ui->solid->isChecked() ? kSolidTube : kTrussTube);
     ShowChange();
 }

@@ -34,5 +34,5 @@ private:
     /// The step that every change goes through.
     void Update();
 
-    std::unique_ptr<Ui::PropertyPageTube1> ui;
+    std::unique_ptr<Ui::PropertyPageTube1> m_ui;
 };

@@ -6,18 +6,18 @@
 #include "ui_PropertyPageTube2.h"
 
 CPropertyPageTube2::CPropertyPageTube2(COrrevaDoc& doc, QWidget* parent)
-    : CPropertyPageTube(doc, parent), ui(std::make_unique<Ui::PropertyPageTube2>())
+    : CPropertyPageTube(doc, parent), m_ui(std::make_unique<Ui::PropertyPageTube2>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     BindTubeHelp();
-    ui->thickness->setText(ToQString(ShowNumber(Record(), kTubeThickness)));
+    m_ui->thickness->setText(ToQString(ShowNumber(Record(), kTubeThickness)));
 
-    connect(ui->thickness, &QLineEdit::textEdited, this, [this](const QString& text) {
+    connect(m_ui->thickness, &QLineEdit::textEdited, this, [this](const QString& text) {
         StoreWallThickness(Record(), FromQString(text));
         ShowChange();
     });
-    connect(ui->thicknessReset, &QToolButton::clicked, this, [this] {
-        ui->thickness->setText(ToQString(ResetTubeMeasure(Record(), kTubeThickness)));
+    connect(m_ui->thicknessReset, &QToolButton::clicked, this, [this] {
+        m_ui->thickness->setText(ToQString(ResetTubeMeasure(Record(), kTubeThickness)));
         ShowChange();
     });
 }

@@ -17,5 +17,5 @@ public:
     ~CPropertyPageTube2() override;
 
 private:
-    std::unique_ptr<Ui::PropertyPageTube2> ui;
+    std::unique_ptr<Ui::PropertyPageTube2> m_ui;
 };

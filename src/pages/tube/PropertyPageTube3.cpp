@@ -5,20 +5,20 @@
 #include "ui_PropertyPageTube3.h"
 
 CPropertyPageTube3::CPropertyPageTube3(COrrevaDoc& doc, QWidget* parent)
-    : CPropertyPageTube(doc, parent), ui(std::make_unique<Ui::PropertyPageTube3>())
+    : CPropertyPageTube(doc, parent), m_ui(std::make_unique<Ui::PropertyPageTube3>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     BindTubeHelp();
     for (const TubeType& type : TrussChoices()) {
-        ui->trussType->addItem(ToQString(type.text));
+        m_ui->trussType->addItem(ToQString(type.text));
     }
     ShowTruss();
 
-    Connect(ui->boxThickness, ui->boxThicknessReset, kTrussBoxThickness);
-    Connect(ui->boxHeight, ui->boxHeightReset, kTrussBoxHeight);
-    Connect(ui->cageThickness, ui->cageThicknessReset, kTrussCageThickness);
-    Connect(ui->cageHeight, ui->cageHeightReset, kTrussCageHeight);
-    connect(ui->trussType, &QComboBox::activated, this, [this](int row) {
+    Connect(m_ui->boxThickness, m_ui->boxThicknessReset, kTrussBoxThickness);
+    Connect(m_ui->boxHeight, m_ui->boxHeightReset, kTrussBoxHeight);
+    Connect(m_ui->cageThickness, m_ui->cageThicknessReset, kTrussCageThickness);
+    Connect(m_ui->cageHeight, m_ui->cageHeightReset, kTrussCageHeight);
+    connect(m_ui->trussType, &QComboBox::activated, this, [this](int row) {
         if (StoreTrussChoice(Record(), row)) {
             ShowChange();
         }
@@ -40,23 +40,23 @@ void CPropertyPageTube3::Connect(QLineEdit* edit, const QToolButton* reset, cons
 void CPropertyPageTube3::ShowTruss()
 {
     const TrussTexts texts = ReadTruss(Record());
-    ui->boxThickness->setText(ToQString(texts.box_thickness));
-    ui->boxHeight->setText(ToQString(texts.box_height));
-    ui->cageThickness->setText(ToQString(texts.cage_thickness));
-    ui->cageHeight->setText(ToQString(texts.cage_height));
-    ui->trussType->setCurrentIndex(TrussChoiceOf(Record().GetTubeType()));
+    m_ui->boxThickness->setText(ToQString(texts.box_thickness));
+    m_ui->boxHeight->setText(ToQString(texts.box_height));
+    m_ui->cageThickness->setText(ToQString(texts.cage_thickness));
+    m_ui->cageHeight->setText(ToQString(texts.cage_height));
+    m_ui->trussType->setCurrentIndex(TrussChoiceOf(Record().GetTubeType()));
     ShowGap();
 }
 
-void CPropertyPageTube3::ShowGap() { ui->gap->setText(ToQString(TrussGapText(Record()))); }
+void CPropertyPageTube3::ShowGap() { m_ui->gap->setText(ToQString(TrussGapText(Record()))); }
 
 void CPropertyPageTube3::Update3()
 {
     TrussTexts texts;
-    texts.box_thickness = FromQString(ui->boxThickness->text());
-    texts.box_height = FromQString(ui->boxHeight->text());
-    texts.cage_thickness = FromQString(ui->cageThickness->text());
-    texts.cage_height = FromQString(ui->cageHeight->text());
+    texts.box_thickness = FromQString(m_ui->boxThickness->text());
+    texts.box_height = FromQString(m_ui->boxHeight->text());
+    texts.cage_thickness = FromQString(m_ui->cageThickness->text());
+    texts.cage_height = FromQString(m_ui->cageHeight->text());
     StoreTruss(Record(), texts);
     ShowGap();
     ShowChange();

@@ -31,5 +31,5 @@ private:
     /// The step that every change of a number goes through.
     void Update3();
 
-    std::unique_ptr<Ui::PropertyPageTube3> ui;
+    std::unique_ptr<Ui::PropertyPageTube3> m_ui;
 };

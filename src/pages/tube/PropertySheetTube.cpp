@@ -7,7 +7,7 @@
 #include "views/TubePanel.h"
 
 CPropertySheetTube::CPropertySheetTube(COrrevaDoc& doc, QWidget* parent)
-    : CPropertySheet(tr("Tube Properties"), parent), document(doc), panel(new CTubePanel(doc, this))
+    : CPropertySheet(tr("Tube Properties"), parent), m_document(doc), m_panel(new CTubePanel(doc, this))
 {
     AddPage(tr("General"), [this](QWidget* place) {
         auto* const page = NewPage<CPropertyPageTube1>(place);
@@ -15,22 +15,22 @@ CPropertySheetTube::CPropertySheetTube(COrrevaDoc& doc, QWidget* parent)
         return page;
     });
     AddDesignPage();
-    AddPanel(panel);
+    AddPanel(m_panel);
     OpenWithRoom({840, 400});
 }
 
 template <class Page>
 Page* CPropertySheetTube::NewPage(QWidget* place)
 {
-    auto* const page = new Page(document, place);
-    connect(page, &CPropertyPageTube::RecordChanged, panel, qOverload<>(&QWidget::update));
+    auto* const page = new Page(m_document, place);
+    connect(page, &CPropertyPageTube::RecordChanged, m_panel, qOverload<>(&QWidget::update));
     return page;
 }
 
 void CPropertySheetTube::AddDesignPage()
 {
-    solid = DesignOf(document.active_record->GetTubeType()) == kSolidTube ? 1 : 0;
-    if (solid != 0) {
+    m_solid = DesignOf(m_document.active_record->GetTubeType()) == kSolidTube ? 1 : 0;
+    if (m_solid != 0) {
         AddPage(tr("Tube"), [this](QWidget* place) { return NewPage<CPropertyPageTube2>(place); });
     } else {
         AddPage(tr("Truss Tube"), [this](QWidget* place) { return NewPage<CPropertyPageTube3>(place); });

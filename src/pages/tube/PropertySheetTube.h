@@ -20,7 +20,7 @@ private:
     void AddDesignPage();
     void ExchangeDesignPage();
 
-    COrrevaDoc& document;
-    CTubePanel* panel;
-    int solid = 0; ///< which second page stands in the sheet: 1 the solid tube's, 0 the truss tube's
+    COrrevaDoc& m_document;
+    CTubePanel* m_panel;
+    int m_solid = 0; ///< which second page stands in the sheet: 1 the solid tube's, 0 the truss tube's
 };
