@@ -23,7 +23,7 @@ struct LensLine {
 };
 
 /// Behind the line with the title. The blanks at line ends belong to the format.
-constexpr LensLine kLines[] = {
+constexpr LensLine kLensLines[] = {
     {"EBR  ", [](const Lens& lens) { return lens.D / 2; }},
     {"ANG  ", [](const Lens& lens) { return FieldAngle(lens.f, lens.w / 2); }},
     {"DES  \"Orreva\""},
@@ -106,7 +106,7 @@ std::string OsloExport(COrrevaData& data)
     std::string text = std::string("// OSLO 6.3") + kLineEnd;
     text += std::string("LEN NEW \"") + data.GetTitle().GetText() + "\" " + FormatOsloNumber(lens.f, -1) +
             " 5" + kLineEnd;
-    for (const LensLine& line : kLines) {
+    for (const LensLine& line : kLensLines) {
         text += line.text;
         if (line.value != nullptr) {
             text += FormatOsloNumber(line.value(lens), line.precision);

@@ -5,14 +5,19 @@
 #include "lib/text/Numbers.h"
 #include "model/record/RecordFields.h"
 
+#include "Version.h"
+
 #include <cmath>
 #include <vector>
 
 namespace {
 
-constexpr std::string_view kHead = "<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\n"
-                                   "<!--  Created by Orreva 0.3.1\n"
-                                   "-->\n";
+std::string Head()
+{
+    return std::string("<?xml version=\"1.0\" encoding=\"ISO-8859-1\" ?>\n<!--  Created by Orreva ") +
+           kFileVersion + "\n-->\n";
+}
+
 constexpr std::size_t kValueSize = 1024;
 
 /// As "%f"; what is not finite has texts of its own, which belong to the format whatever the runtime prints.
@@ -123,7 +128,7 @@ RecordFiles& DesignFiles()
 
 std::string WriteTelescope(const COrrevaData& data)
 {
-    std::string bytes(kHead);
+    std::string bytes = Head();
     ElementWriter writer(bytes);
     for (const RecordField& field : RecordFields()) {
         writer.Write(field.key, std::visit(ValueText{data}, field.field));

@@ -1,5 +1,7 @@
 #include "drawing/PolygonPicture.h"
 
+#include "drawing/ShapeStyle.h"
+
 #include "drawing/LabelLayout.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/FormatText.h"
@@ -11,10 +13,6 @@
 #include <vector>
 
 namespace {
-
-constexpr std::int32_t kMargin = 10;
-constexpr Colour kGrey{192, 192, 192};
-constexpr Font kLabelFont{.height = 12};
 
 /// A measure: the line that it is shown on, or the ends of the angle's arc, and its label.
 struct Measure {
@@ -29,8 +27,9 @@ class PolygonPainter {
 public:
     PolygonPainter(Surface& surface, const PolygonInput& input)
         : m_surface(surface), m_input(input), m_m(MeasurePolygon(input)),
-          m_nWidth(surface.Width() - 2 * kMargin),
-          m_nHeight(surface.Height() - 2 * kMargin), m_centre{surface.Width() / 2.0, surface.Height() / 2.0},
+          m_nWidth(surface.Width() - 2 * kShapeMargin),
+          m_nHeight(surface.Height() - 2 * kShapeMargin), m_centre{surface.Width() / 2.0,
+                                                                   surface.Height() / 2.0},
           m_dScale(std::min(m_nWidth, m_nHeight) / (2 * m_m.dOuterRadius)),
           m_labels(surface.Width(), surface.Height(), kLabelFont)
     {}
@@ -64,7 +63,7 @@ private:
 
     void GreyLine(Point from, Point to)
     {
-        m_surface.Line(NearestPixel(from), NearestPixel(to), kGrey);
+        m_surface.Line(NearestPixel(from), NearestPixel(to), kShapeGrey);
         m_labels.AddLine(from, to);
     }
 
@@ -183,7 +182,7 @@ void PaintPolygon(Surface& surface, const PolygonInput& input, int language)
 {
     surface.FillRect({0, 0, surface.Width(), surface.Height()}, kWhite);
     if (const char* const pszRefusal = PolygonRefusal(input, language)) {
-        surface.Text({kMargin, kMargin}, pszRefusal, kLabelFont, kBlack);
+        surface.Text({kShapeMargin, kShapeMargin}, pszRefusal, kLabelFont, kBlack);
     } else if (PolygonTypeName(input.nType) != nullptr) {
         PolygonPainter(surface, input).Paint();
     }

@@ -14,11 +14,11 @@
 namespace {
 
 constexpr Colour kBackground{0, 102, 153};
-constexpr Colour kGreen{0, 255, 64};   // primary and diagonal flat
-constexpr Colour kYellow{255, 255, 0}; // rays that go on, the fully lit field
-constexpr Colour kOlive{192, 192, 0};  // focal plane
-constexpr Colour kGrey{143, 128, 128}; // rays that are lost
-constexpr Colour kDark{0, 64, 64};     // tube walls, focuser parts, box and cage
+constexpr Colour kGreen{0, 255, 64};      // primary and diagonal flat
+constexpr Colour kYellow{255, 255, 0};    // rays that go on, the fully lit field
+constexpr Colour kOlive{192, 192, 0};     // focal plane
+constexpr Colour kLostRay{143, 128, 128}; // rays that are lost
+constexpr Colour kDark{0, 64, 64};        // tube walls, focuser parts, box and cage
 constexpr Colour kLightGrey{240, 240, 240};
 constexpr Colour kRed{255, 0, 0};
 
@@ -154,7 +154,7 @@ void SectionPainter::PaintRays(const ViewSwitches& switches, Point pointer, int 
 {
     const RayPicture rays = TraceActiveSet(m_g, m_record, switches, pointer);
     for (const RaySegment& segment : rays.segments) {
-        Line(segment.x0, segment.y0, segment.x1, segment.y1, segment.colour == RayHit ? kYellow : kGrey);
+        Line(segment.x0, segment.y0, segment.x1, segment.y1, segment.colour == RayHit ? kYellow : kLostRay);
     }
     if (rays.status) {
         constexpr Pixel kStatus{4, 0};

@@ -1,5 +1,7 @@
 #include "drawing/SectorPicture.h"
 
+#include "drawing/ShapeStyle.h"
+
 #include "drawing/LabelLayout.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/FormatText.h"
@@ -10,17 +12,13 @@
 
 namespace {
 
-constexpr std::int32_t kMargin = 10;
-constexpr Colour kGrey{192, 192, 192};
-constexpr Font kLabelFont{.height = 12};
-
 class SectorPainter {
 public:
     SectorPainter(Surface& surface, const SectorInput& input)
         : m_surface(surface), m_input(input),
           m_m(MeasureSector(input)), m_centre{surface.Width() / 2.0, surface.Height() / 2.0},
           m_dRadius(m_m.dRadius *
-                    ((std::min(surface.Width(), surface.Height()) - 2 * kMargin) / input.dDiameter)),
+                    ((std::min(surface.Width(), surface.Height()) - 2 * kShapeMargin) / input.dDiameter)),
           m_left(At(-m_m.dHalfAngle, m_dRadius)), m_right(At(m_m.dHalfAngle, m_dRadius)),
           m_labels(surface.Width(), surface.Height(), kLabelFont)
     {}
@@ -30,11 +28,11 @@ public:
         const Point chordMiddle = At(0, std::cos(m_m.dHalfAngle) * m_dRadius);
         const Point bottom = At(0, m_dRadius);
         const PixelRect circle = Box(m_dRadius);
-        m_surface.Ellipse(circle, kGrey, 1);
+        m_surface.Ellipse(circle, kShapeGrey, 1);
         m_labels.AddEllipse(m_centre, m_dRadius, m_dRadius);
-        Line(m_centre, m_right, kGrey);
-        Line(m_centre, m_left, kGrey);
-        Line(chordMiddle, bottom, kGrey);
+        Line(m_centre, m_right, kShapeGrey);
+        Line(m_centre, m_left, kShapeGrey);
+        Line(chordMiddle, bottom, kShapeGrey);
         Line(m_left, m_right, kBlack);
         Arc(circle, m_dRadius);
         Arc(Box(m_dRadius / 4), m_dRadius / 4);
@@ -98,7 +96,7 @@ void PaintSector(Surface& surface, const SectorInput& input, int language)
 {
     surface.FillRect({0, 0, surface.Width(), surface.Height()}, kWhite);
     if (const char* const pszRefusal = SectorRefusal(input, language)) {
-        surface.Text({kMargin, kMargin}, pszRefusal, kLabelFont, kBlack);
+        surface.Text({kShapeMargin, kShapeMargin}, pszRefusal, kLabelFont, kBlack);
     } else {
         SectorPainter(surface, input).Paint();
     }

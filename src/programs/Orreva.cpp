@@ -1,6 +1,8 @@
 #include "app/OrrevaApp.h"
 #include "app/ProgramStyle.h"
 
+#include "Version.h"
+
 #include <QApplication>
 
 #include <clocale>
@@ -11,7 +13,7 @@ int main(int argc, char** argv)
     // The toolkit takes the system's locale over; numbers are read and written in the C locale always.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("Orreva");
-    QApplication::setApplicationVersion("0.3.1.34");
+    QApplication::setApplicationVersion(kVersion);
     QApplication::setDesktopFileName("orreva");
     QApplication::setStyle(new CProgramStyle);
 

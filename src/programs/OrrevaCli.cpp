@@ -4,13 +4,13 @@
 #include "lib/text/Language.h"
 #include "lib/text/LogSink.h"
 
+#include "Version.h"
+
 #include <csignal>
 #include <string>
 #include <vector>
 
 namespace {
-
-constexpr const char* kVersion = "orreva-cli 0.3.1.34\n";
 
 constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a window
 
@@ -48,7 +48,7 @@ int main(int argc, char** argv)
     const CommandLine words =
         ParseCommandLine(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
     if (words.help || words.version) {
-        return WriteOutput("", words.help ? kHelp : kVersion);
+        return WriteOutput("", words.help ? kHelp : std::string("orreva-cli ") + kVersion + "\n");
     }
     if (const auto language = words.Value("--language")) {
         g_nLanguage = static_cast<int>(ChoiceOf("--language", *language, {"en", "de"}));

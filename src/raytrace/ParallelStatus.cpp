@@ -4,23 +4,11 @@
 #include "lib/text/Language.h"
 #include "lib/text/LibString.h"
 #include "lib/text/Numbers.h"
+#include "model/analysis/IlluminationTable.h"
 #include "model/record/Formulas.h"
 #include "model/record/OrrevaData.h"
 
 #include <cmath>
-
-namespace {
-
-/// Percent of the unit circle that a circle of the radius r at the distance d covers; no number if the
-/// circles do not cut each other.
-double OverlapPercent(double r, double d)
-{
-    const double c1 = ((d * d + 1 - r * r) / 2) / d;
-    const double c2 = ((r * r + d * d - 1) / 2) / d / r;
-    return (std::acos(c1) - std::sqrt(1 - c1 * c1) * d + r * r * std::acos(c2)) * 100 / kPi;
-}
-
-} // namespace
 
 ParallelFigures ParallelStatus(COrrevaData& record, double a)
 {
@@ -36,7 +24,7 @@ ParallelFigures ParallelStatus(COrrevaData& record, double a)
     figures.imageMm = std::fabs(e) + std::fabs(e);
     const double r = S * f / L / D;
     const double d = (f - L) * figures.imageMm / L / D;
-    figures.illuminationPercent = OverlapPercent(r, d);
+    figures.illuminationPercent = OverlapPercent(d, r);
     if (!std::isfinite(figures.illuminationPercent)) {
         figures.illuminationPercent = figures.imageMm > S ? 0.0 : 100.0;
     }

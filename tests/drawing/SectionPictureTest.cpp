@@ -219,8 +219,8 @@ TEST_F(SectionPicture, DrawsTheRaysOfTheModeOverTheTubeAndUnderTheScale)
     std::size_t grey = 0;
     for (auto i = field + 1; i < base; ++i) {
         const auto& line = std::get<drawn::Line>(window.calls[static_cast<std::size_t>(i)]);
-        yellow += line.colour == kYellow ? 1 : 0;
-        grey += line.colour == kGrey ? 1 : 0;
+        yellow += line.colour == kYellow ? 1u : 0u;
+        grey += line.colour == kGrey ? 1u : 0u;
     }
     EXPECT_EQ(static_cast<std::size_t>(base - field - 1), yellow + grey);
     EXPECT_GT(yellow, 10u);

@@ -98,7 +98,7 @@ struct MonthOfName {
 };
 
 /// German only, in both languages.
-constexpr MonthOfName kMonths[] = {
+constexpr MonthOfName kMonthNames[] = {
     {"Januar", 1},   {"Februar", 2},   {"März"_cp1252, 3}, {"Marz", 3},   {"April", 4},
     {"Mai", 5},      {"Juni", 6},      {"Juli", 7},        {"August", 8}, {"September", 9},
     {"Oktober", 10}, {"November", 11}, {"Dezember", 12},
@@ -106,7 +106,7 @@ constexpr MonthOfName kMonths[] = {
 
 int TakeMonth(const char*& psz)
 {
-    for (const MonthOfName& month : kMonths) {
+    for (const MonthOfName& month : kMonthNames) {
         if (StartsWithNoCase(month.pszName, psz) != nullptr) {
             psz += std::strlen(month.pszName);
             return month.nMonth;

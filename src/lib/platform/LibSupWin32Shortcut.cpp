@@ -20,7 +20,7 @@ std::string EntryText(std::string_view text)
 }
 
 /// A path as a command: in quotes, with what a quoted argument and a field code mean escaped.
-std::string Command(std::string_view path)
+std::string QuotedCommand(std::string_view path)
 {
     std::string quoted = "\"";
     for (const char c : path) {
@@ -63,7 +63,7 @@ int CreateShortcut(const char* pszTarget, const char* pszLink, const char* pszDe
     const std::string description = EntryText(Utf8FromCp1252(pszDescription));
     const std::string name = description.empty() ? EntryText(pszTarget) : description;
     const std::string entry = "[Desktop Entry]\nType=Application\nName=" + name + "\nComment=" + description +
-                              "\nExec=" + EntryText(Command(pszTarget)) + "\n";
+                              "\nExec=" + EntryText(QuotedCommand(pszTarget)) + "\n";
     if (std::strlen(pszLink) > kLongestLink || !ReplaceFile(pszLink, entry)) {
         LibString text;
         text.Format("Error saving %s to %s!", Cp1252FromUtf8(pszTarget).c_str(),

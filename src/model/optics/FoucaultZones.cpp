@@ -8,7 +8,7 @@
 
 namespace {
 
-std::string Millimetres(double value) { return FormatText("%0.4f mm", value); }
+std::string ZoneMillimetres(double value) { return FormatText("%0.4f mm", value); }
 
 std::vector<ListColumn> ZoneColumns(const ZoneView& view)
 {
@@ -79,11 +79,11 @@ ListRow ZoneTable::Row(std::int32_t index) const
     const ZoneEdges edges = m_edges(index);
     ListRow row{std::to_string(index + 1)};
     if (m_view.mask_type == kCouderMask) {
-        row.push_back(Millimetres(edges.inner));
-        row.push_back(Millimetres(edges.outer));
+        row.push_back(ZoneMillimetres(edges.inner));
+        row.push_back(ZoneMillimetres(edges.outer));
     }
-    row.push_back(Millimetres(ZoneCentre(edges, m_view.centre_method)));
-    row.push_back(Millimetres(Shift(index) - Shift(0)));
+    row.push_back(ZoneMillimetres(ZoneCentre(edges, m_view.centre_method)));
+    row.push_back(ZoneMillimetres(Shift(index) - Shift(0)));
     return row;
 }
 

@@ -73,7 +73,7 @@ private:
     std::vector<Powers> m_powers;
 };
 
-std::optional<double> Search(const Wavefront& wavefront, double step)
+std::optional<double> SearchLimit(const Wavefront& wavefront, double step)
 {
     Extremes extremes; // carried on from one constant to the next
     double p = 1;
@@ -92,8 +92,8 @@ std::optional<double> Search(const Wavefront& wavefront, double step)
 std::optional<RonchiTolerance> FindRonchiTolerance(double D, double F)
 {
     const Wavefront wavefront(D / kInch, F / kInch);
-    const std::optional<double> lower = Search(wavefront, -kConstantStep);
-    const std::optional<double> upper = lower ? Search(wavefront, kConstantStep) : std::nullopt;
+    const std::optional<double> lower = SearchLimit(wavefront, -kConstantStep);
+    const std::optional<double> upper = lower ? SearchLimit(wavefront, kConstantStep) : std::nullopt;
     if (!upper) {
         return std::nullopt;
     }

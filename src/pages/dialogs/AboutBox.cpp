@@ -2,12 +2,14 @@
 
 #include "pages/sheet/Help.h"
 
+#include "Version.h"
 #include "ui_AboutBox.h"
 
 CAboutBox::CAboutBox(bool germanForm, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::AboutBox>())
 {
     m_ui->setupUi(this);
+    m_ui->version->setText(QString("Orreva Version ") + kVersion);
     m_ui->icon->setPixmap(QIcon(":/icons/orreva.svg").pixmap(64, 64));
     m_ui->formulas->setVisible(germanForm);
     connect(m_ui->formulas, &QPushButton::clicked, this, [] { WinHelp(0, kHelpContext); });

@@ -5,8 +5,8 @@
 
 #include "ui_ComponentDialog.h"
 
-CComponentDialog::CComponentDialog(COrrevaData& data, std::size_t row, QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::ComponentDialog>()), m_record(data), m_component(row)
+CComponentDialog::CComponentDialog(COrrevaData& record, std::size_t row, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::ComponentDialog>()), m_record(record), m_component(row)
 {
     m_ui->setupUi(this);
     const ComponentTexts texts = ReadComponent(m_record, m_component);

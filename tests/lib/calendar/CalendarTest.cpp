@@ -10,7 +10,7 @@
 #include <random>
 #include <vector>
 
-void PrintTo(const CalDate& date, std::ostream* out)
+static void PrintTo(const CalDay& date, std::ostream* out)
 {
     *out << date.GetDay() << '.' << date.GetMonth() << '.' << date.GetYear();
 }

@@ -82,7 +82,7 @@ TEST(CountLightPaths, IsTheDirectLoopOnTheGridItself)
     for (int i = 0; i < 4000; ++i) {
         const std::int32_t n = static_cast<std::int32_t>(random() % 12) + 1;
         const double cell = 0.5;
-        const auto steps = [&](int most) { return cell / 2 * static_cast<double>(random() % most); };
+        const auto steps = [&](unsigned most) { return cell / 2 * static_cast<double>(random() % most); };
         const Circles circles{steps(40) - 5, steps(40) - 5, steps(40) - 5, steps(40),
                               steps(40),     steps(40),     cell * (n + 1)};
         ExpectEqualToTheDirectLoop(circles, n);
