@@ -40,7 +40,7 @@ int g_nWizard = 0;
 // The records clear themselves while the document is being built. It is not the current one then, so that
 // nothing is asked of its host.
 COrrevaDoc::COrrevaDoc(DocumentHost& desktop)
-    : main_record(this, &DesignFiles()), scratch_record(this, &DesignFiles()), m_host(desktop)
+    : main_record(this, &m_files), scratch_record(this, &m_files), m_host(desktop)
 {}
 
 COrrevaDoc::~COrrevaDoc()
@@ -193,7 +193,7 @@ void COrrevaDoc::WriteExport(const FileDialog& dialog, const std::optional<std::
                              const char* error)
 {
     const std::string path = m_host.AskPath(dialog);
-    if (!path.empty() && !(text && ReplaceFile(path.c_str(), *text))) {
+    if (!path.empty() && !(text && m_files.Save(path, *text))) {
         m_host.ShowMessage(error);
     }
 }

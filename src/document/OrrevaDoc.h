@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DesignFiles.h"
 #include "document/DocumentHost.h"
 #include "model/record/OrrevaData.h"
 #include "raytrace/ViewSwitches.h"
@@ -67,7 +68,13 @@ public:
     /// Whether a telescope is loaded.
     bool HasFile() const { return active_record->HasFile(); }
     DocumentHost& Host() { return m_host; }
+    /// How the document writes files, and how the last save ended.
+    DesignFiles& Files() { return m_files; }
 
+private:
+    DesignFiles m_files; // which both records use to their end
+
+public:
     COrrevaData* active_record = &main_record; ///< the scratch record while the tube properties run
     COrrevaData main_record;
     COrrevaData scratch_record;

@@ -5,6 +5,7 @@
 #include "model/record/TelescopeFields.h"
 
 #include <cstdint>
+#include <functional>
 
 class COrrevaData;
 
@@ -29,6 +30,9 @@ public:
     virtual bool Write(const COrrevaData& record) = 0;
     /// Fills the record's fields from its file.
     virtual void Read(COrrevaData& record) = 0;
+    /// A modified record is about to be reset and its changes are in no file: the user wanted no save, or the
+    /// save failed. The last chance to keep a copy.
+    virtual void NotSaved(const COrrevaData&, bool /*failed*/) {}
 };
 
 /// The telescope: at once the builder's input and a network of defaults.
@@ -73,6 +77,9 @@ public:
     /// Reads a design file into a record that the caller has reset. 0 done, 1 missing file: the record is
     /// cleared.
     int Load(const char* path);
+    /// The part of Load behind the test whether the file exists, for bytes that others have read already:
+    /// takes `path` as the record's path and title, and `read` fills the fields.
+    void LoadBy(const char* path, const std::function<void(COrrevaData& record)>& read);
 
     // Texts and types ------------------------------------------------------------------------------------
 
