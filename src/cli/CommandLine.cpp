@@ -13,8 +13,8 @@
 namespace {
 
 constexpr std::uint32_t kTelescopeVerbs = kReport | kRays | kDraw | kSaveVerb | kExport;
-constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc;
-constexpr std::uint32_t kTableVerbs = kReport; ///< those that print tables in several forms
+constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kRescue;
+constexpr std::uint32_t kTableVerbs = kReport | kRescue; ///< those that print tables in several forms
 
 struct VerbName {
     std::string_view name;
@@ -22,7 +22,7 @@ struct VerbName {
 };
 
 constexpr VerbName kVerbs[] = {{"report", kReport}, {"rays", kRays},     {"draw", kDraw}, {"save", kSaveVerb},
-                               {"import", kImport}, {"export", kExport}, {"calc", kCalc}};
+                               {"import", kImport}, {"export", kExport}, {"calc", kCalc}, {"rescue", kRescue}};
 
 struct Option {
     std::string_view name;
