@@ -21,8 +21,9 @@ struct VerbName {
     Verb verb;
 };
 
-constexpr VerbName kVerbs[] = {{"report", kReport}, {"rays", kRays},     {"draw", kDraw}, {"save", kSaveVerb},
-                               {"import", kImport}, {"export", kExport}, {"calc", kCalc}, {"rescue", kRescue}};
+constexpr VerbName kVerbs[] = {{"report", kReport}, {"rays", kRays},     {"draw", kDraw},
+                               {"save", kSaveVerb}, {"import", kImport}, {"export", kExport},
+                               {"calc", kCalc},     {"rescue", kRescue}};
 
 struct Option {
     std::string_view name;

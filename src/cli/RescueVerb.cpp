@@ -16,8 +16,8 @@ int ListRescueCopies(TableFormat format, const std::string& output)
     const std::vector<RescueCopy> copies = RescueCopies().List();
     for (std::size_t i = 0; i < copies.size(); ++i) {
         const std::string title = Utf8FromCp1252(copies[i].title);
-        const TableCell cells[] = {static_cast<double>(i + 1), copies[i].time, RescueReasonWord(copies[i].reason),
-                                   title, copies[i].path};
+        const TableCell cells[] = {static_cast<double>(i + 1), copies[i].time,
+                                   RescueReasonWord(copies[i].reason), title, copies[i].path};
         layout.AppendRow(table, cells, i == 0);
     }
     layout.AppendFoot(table, copies.empty());

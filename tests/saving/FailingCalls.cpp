@@ -103,7 +103,8 @@ ORREVA_FAILING(ssize_t, -1, getxattr, (const char* path, const char* name, void*
                (path, name, to, size))
 ORREVA_FAILING(ssize_t, -1, fgetxattr, (int fd, const char* name, void* to, size_t size) noexcept,
                (fd, name, to, size))
-ORREVA_FAILING(int, -1, fsetxattr, (int fd, const char* name, const void* value, size_t size, int flags) noexcept,
+ORREVA_FAILING(int, -1, fsetxattr,
+               (int fd, const char* name, const void* value, size_t size, int flags) noexcept,
                (fd, name, value, size, flags))
 ORREVA_FAILING(int, -1, fremovexattr, (int fd, const char* name) noexcept, (fd, name))
 ORREVA_FAILING(DIR*, nullptr, opendir, (const char* path), (path))
@@ -112,7 +113,7 @@ ORREVA_FAILING(struct dirent*, nullptr, readdir, (DIR * folder), (folder))
 ORREVA_FAILING(char*, nullptr, getcwd, (char* to, size_t size) noexcept, (to, size))
 ORREVA_FAILING(char*, nullptr, realpath, (const char* path, char* to) noexcept, (path, to))
 
-/// The worst of failures: half is written.
+/// The worst of failures: half is written; an interrupted call has written nothing.
 extern "C" ssize_t write(int fd, const void* from, size_t size)
 {
     static auto* const next = Next<ssize_t(int, const void*, size_t)>("write");
@@ -120,7 +121,7 @@ extern "C" ssize_t write(int fd, const void* from, size_t size)
         return next(fd, from, size);
     }
     const int error = errno;
-    next(fd, from, size / 2);
+    next(fd, from, error == EINTR ? 0 : size / 2);
     errno = error;
     return -1;
 }

@@ -268,14 +268,14 @@ TEST(TemporaryFile, GoesWithASignalThatEndsTheProgram)
         const std::string path = folder.Write("a", "old");
         chmod(path.c_str(), 0666);
         EXPECT_EQ(-signal, AsOrdinaryUser([&] {
-                      FileReplacement file(path.c_str());
-                      file.Write("new");
-                      if (folder.Count() != 2) {
-                          return 1;
-                      }
-                      raise(signal);
-                      return 2;
-                  }));
+            FileReplacement file(path.c_str());
+            file.Write("new");
+            if (folder.Count() != 2) {
+                return 1;
+            }
+            raise(signal);
+            return 2;
+        }));
         EXPECT_EQ("old", folder.Read("a"));
         EXPECT_EQ(1, folder.Count());
     }
@@ -310,14 +310,14 @@ TEST(HeldSignals, WaitUntilWhatIsUnderWayIsDone)
     const TemporaryFolder folder;
     chmod(folder.Path().c_str(), 0777);
     EXPECT_EQ(-SIGTERM, AsOrdinaryUser([&] {
-                  const TemporaryFile file;
-                  {
-                      const HeldSignals held;
-                      raise(SIGTERM);
-                      folder.Write("done", "");
-                  }
-                  return 1;
-              }));
+        const TemporaryFile file;
+        {
+            const HeldSignals held;
+            raise(SIGTERM);
+            folder.Write("done", "");
+        }
+        return 1;
+    }));
     EXPECT_TRUE(fs::exists(folder / "done"));
 }
 
