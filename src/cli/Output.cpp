@@ -30,11 +30,11 @@ bool Output::Write(std::string_view bytes)
 
 bool Output::Flush() { return Check(m_error == 0 && (m_file || std::fflush(stdout) == 0)); }
 
-bool Output::IsLeft() const { return m_error == EPIPE; }
+bool Output::IsReaderGone() const { return m_error == EPIPE; }
 
 int Output::Finish()
 {
-    if (Check(m_error == 0 && (m_file ? m_file->Commit() : std::fflush(stdout) == 0)) || IsLeft()) {
+    if (Check(m_error == 0 && (m_file ? m_file->Commit() : std::fflush(stdout) == 0)) || IsReaderGone()) {
         return kDone;
     }
     if (m_path.empty()) {

@@ -9,10 +9,12 @@
 /// Exit status of the program.
 inline constexpr int kDone = 0;
 inline constexpr int kFailed = 1;
+inline constexpr int kFaults = 3; ///< a design that was checked has errors or warnings
 
 /// Where a verb's bytes go: to the file at a path, which appears whole or not at all, or, for an empty path
 /// or
-/// "-", to standard output as they come.
+/// "-", to standard output as they come. A reader that goes away has seen enough: what is written then fails,
+/// and yet all is well.
 class Output {
 public:
     explicit Output(const std::string& path);
@@ -21,10 +23,10 @@ public:
     bool Write(std::string_view bytes);
     /// Hands over what stands so far, so that a reader need not wait for the rest.
     bool Flush();
-    /// The exit status; a failure is told on standard error. A reader that has seen enough is none.
+    /// The exit status; a failure is told on standard error.
     int Finish();
     /// Whether the reader went away.
-    bool IsLeft() const;
+    bool IsReaderGone() const;
 
 private:
     bool Check(bool good);
