@@ -156,7 +156,12 @@ bool COrrevaDoc::OpenOldFormat(const char* path)
         Tell(m_host, kNotOpened, path);
         return false;
     }
-    OldArchive archive(*bytes);
+    return OpenOldBytes(path, *bytes);
+}
+
+bool COrrevaDoc::OpenOldBytes(const char* path, std::string_view bytes)
+{
+    OldArchive archive(bytes);
     if (!Serialize(archive)) {
         Tell(m_host, kDamaged, path);
         UpdateAllViews(); // the record may hold a part of the file now

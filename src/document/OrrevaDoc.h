@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 class OldArchive;
 
@@ -52,6 +53,8 @@ public:
     /// hands over. A failure is told and gives false; the record keeps what was read. After success the
     /// document's title is the file's name, until the next reset of a record.
     bool OpenOldFormat(const char* path);
+    /// The same for the bytes of such a file, which others have read.
+    bool OpenOldBytes(const char* path, std::string_view bytes);
 
     /// Raises the save prompt, which has no Cancel: the caller closes in any case.
     void OnCloseDocument();

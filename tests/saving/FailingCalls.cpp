@@ -2,6 +2,8 @@
 // the program there: the call of the number ORREVA_FAIL_AT, counted from 1, with the code ORREVA_FAIL_ERROR
 // (0: the program is killed). At the end the number of calls goes to the file ORREVA_FAIL_COUNT.
 
+#undef _FORTIFY_SOURCE // the checked forms are inline functions of the same names
+
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -79,6 +81,9 @@ const Report g_report;
 
 ORREVA_FAILING(ssize_t, -1, read, (int fd, void* to, size_t size), (fd, to, size))
 ORREVA_FAILING(ssize_t, -1, pread, (int fd, void* to, size_t size, off_t at), (fd, to, size, at))
+ORREVA_FAILING(ssize_t, -1, __read_chk, (int fd, void* to, size_t size, size_t room), (fd, to, size, room))
+ORREVA_FAILING(ssize_t, -1, __pread_chk, (int fd, void* to, size_t size, off_t at, size_t room),
+               (fd, to, size, at, room))
 ORREVA_FAILING(off_t, -1, lseek, (int fd, off_t at, int whence) noexcept, (fd, at, whence))
 ORREVA_FAILING(int, -1, fsync, (int fd), (fd))
 ORREVA_FAILING(int, -1, rename, (const char* from, const char* to) noexcept, (from, to))

@@ -307,6 +307,25 @@ TEST(CompanionSave, StandsAKillAtAnyMoment)
     KilledAtAnyMoment(save, fresh, Kills(50));
 }
 
+TEST(CompanionRead, NeverGivesATelescopeOfZeros)
+{
+    Save read({ORREVA_CLI, "save", "designs/a.orreva.xml"});
+    const Run whole = read.With(0, 0);
+    ASSERT_EQ(0, whole.status);
+    ASSERT_NE(std::string::npos, whole.words.find("<title>old</title>"));
+    const int calls = read.Calls();
+    ASSERT_GE(calls, 3) << "it opens, reads and closes at least";
+    int failed = 0;
+    for (int call = 1; call <= calls; ++call) {
+        const Run run = read.With(call, EIO);
+        EXPECT_TRUE(run.status == 0 || run.status == 1) << call;
+        EXPECT_EQ(run.status == 0 ? whole.words : "orreva-cli: cannot read designs/a.orreva.xml\n",
+                  run.words);
+        failed += run.status;
+    }
+    EXPECT_GE(failed, 2) << "the opening and the reading";
+}
+
 #endif
 
 } // namespace
