@@ -1,5 +1,6 @@
 #include "app/ProgramStyle.h"
 
+#include "pages/sheet/PropertySheet.h"
 #include "views/ResultList.h"
 
 #include <QHeaderView>
@@ -36,4 +37,17 @@ int CProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
     const int desktops = QProxyStyle::pixelMetric(metric, option, widget);
     const bool margin = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
     return margin && IsOfResultList(widget) ? desktops + kColumnGap : desktops;
+}
+
+int CProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* data) const
+{
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+        return 0;
+    }
+    if (hint == SH_DialogButtonLayout && widget != nullptr &&
+        qobject_cast<const CPropertySheet*>(widget->parentWidget()) != nullptr) {
+        return QDialogButtonBox::WinLayout; // OK, Cancel, Apply
+    }
+    return QProxyStyle::styleHint(hint, option, widget, data);
 }

@@ -1,10 +1,12 @@
 #include "app/ProgramStyle.h"
 
+#include "pages/sheet/PropertySheet.h"
 #include "views/ResultList.h"
 #include "views/WidgetPixels.h"
 
 #include <gtest/gtest.h>
 
+#include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStyleFactory>
@@ -51,6 +53,49 @@ TEST(ProgramStyle, TheColumnsOfAResultListStandApart)
     const std::unique_ptr<QStyle> desktops(QStyleFactory::create(style.baseStyle()->objectName()));
     ASSERT_NE(nullptr, desktops);
     EXPECT_EQ(ColumnWidth(*desktops) + 8, ColumnWidth(style)) << "4 pixels on either side";
+}
+
+/// A desktop that puts icons on the buttons of dialogs, and their order its own way round.
+class OtherDesktop : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        switch (hint) {
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+            return 1;
+        case SH_DialogButtonLayout:
+            return QDialogButtonBox::GnomeLayout;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, data);
+        }
+    }
+};
+
+TEST(ProgramStyle, NoButtonOfADialogHasAnIcon)
+{
+    CProgramStyle style;
+    style.setBaseStyle(new OtherDesktop);
+    QDialogButtonBox box;
+    EXPECT_EQ(0, style.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons, nullptr, &box, nullptr));
+    // As the tests run in the program's style.
+    const QDialogButtonBox standard(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    for (const QAbstractButton* const button : standard.buttons()) {
+        EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+    }
+}
+
+TEST(ProgramStyle, TheButtonsOfASheetStandInOneOrderOnEveryDesktop)
+{
+    CProgramStyle style;
+    style.setBaseStyle(new OtherDesktop);
+    const CPropertySheet sheet("Sheet", nullptr);
+    const auto layoutOf = [&](const QWidget* box) {
+        return style.styleHint(QStyle::SH_DialogButtonLayout, nullptr, box, nullptr);
+    };
+    EXPECT_EQ(QDialogButtonBox::WinLayout, layoutOf(sheet.findChild<QDialogButtonBox*>()));
+    EXPECT_EQ(QDialogButtonBox::GnomeLayout, layoutOf(std::make_unique<QDialogButtonBox>().get()))
+        << "other dialogs follow the desktop";
 }
 
 } // namespace
