@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
+#include <QIcon>
 #include <QLocale>
 
 namespace {
@@ -30,6 +31,7 @@ void OpenHelp(long data, unsigned command)
 
 COrrevaApp::COrrevaApp()
 {
+    QApplication::setWindowIcon(QIcon(":/icons/orreva.svg")); // of every window, the first message's too
     SetAssertDesktop(&m_host);
     SetHelpHandler(OpenHelp);
 }
