@@ -1,5 +1,6 @@
 #include "cli/Shell.h"
 #include "document/RescueCopies.h"
+#include "model/record/OrrevaData.h"
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
 
