@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
+#include <QIcon>
 #include <QLocale>
 #include <QTimer>
 
@@ -36,6 +37,7 @@ void OpenHelp(long data, unsigned command)
 
 COrrevaApp::COrrevaApp()
 {
+    QApplication::setWindowIcon(QIcon(":/icons/orreva.svg")); // of every window, the first message's too
     SetAssertDesktop(&m_host);
     SetHelpHandler(OpenHelp);
 }

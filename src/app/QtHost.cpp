@@ -6,6 +6,7 @@
 #include "document/OrrevaDoc.h"
 #include "lib/files/FileQueries.h"
 #include "lib/platform/Debugger.h"
+#include "lib/text/Language.h"
 #include "pages/dialogs/EarlierDesignsDialog.h"
 #include "pages/dialogs/QuickNewDialog.h"
 #include "pages/dialogs/RaytracingSettingsDialog.h"
@@ -17,6 +18,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -52,6 +54,22 @@ private:
     bool IsQuestion() const { return buttons().size() > 1 && escapeButton() == nullptr; }
 };
 
+/// The lines of a message stay lines; longer ones than this are broken between words.
+void KeepLines(QMessageBox& box)
+{
+    constexpr int kMostCharacters = 100;
+    auto* const label = box.findChild<QLabel*>("qt_msgbox_label");
+    if (label == nullptr) {
+        return;
+    }
+    label->ensurePolished();
+    label->setWordWrap(false);
+    const int width = label->sizeHint().width();
+    if (width <= kMostCharacters * label->fontMetrics().averageCharWidth()) {
+        label->setMinimumWidth(width); // the box would break a line that is wider than half of the screen
+    }
+}
+
 int Box(QWidget* owner, QMessageBox::Icon icon, const QString& title, const QString& text,
         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual = QMessageBox::NoButton)
 {
@@ -62,6 +80,7 @@ int Box(QWidget* owner, QMessageBox::Icon icon, const QString& title, const QStr
     }
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    KeepLines(box);
     return box.exec();
 }
 
@@ -87,6 +106,9 @@ public:
         // A name that is typed and does not exist is the document's to tell.
         setFileMode(QFileDialog::AnyFile);
         setOption(QFileDialog::HideNameFilterDetails);
+        if (const QString title = ToQString(mask.title.In(g_nLanguage)); !title.isEmpty()) {
+            setWindowTitle(title);
+        }
         setNameFilters(NameFilters(mask.filter));
         selectFile(mask.file_name);
     }
