@@ -31,26 +31,6 @@ std::string PlainPath(const std::string& path)
     return (error ? absolute.lexically_normal() : plain).string();
 }
 
-std::string TitleOf(std::string_view design)
-{
-    COrrevaData record;
-    ReadTelescope(XmlScanner::FromText(design), record);
-    return record.GetTitle().GetText();
-}
-
-/// Gives the file at `from` the second name `to`, in place of what stood there; by a copy where the file
-/// system has no second names.
-bool NameToo(const std::string& from, const std::string& to, std::string_view bytes)
-{
-    std::error_code error;
-    if (fs::is_directory(to, error)) {
-        return false;
-    }
-    fs::remove(to, error);
-    fs::create_hard_link(from, to, error);
-    return !error || static_cast<bool>(ReplaceFile(to.c_str(), bytes));
-}
-
 } // namespace
 
 const SaveOutcome& DesignFiles::Save(const std::string& path, std::string_view bytes)
@@ -60,7 +40,7 @@ const SaveOutcome& DesignFiles::Save(const std::string& path, std::string_view b
     PutAside aside;
     if (m_copies != nullptr) {
         aside = [this](const std::string& file, std::string_view old) {
-            return m_copies->Keep(RescueReason::Replaced, old, TitleOf(old), file);
+            return m_copies->KeepReplaced(old, file);
         };
     }
     if (m_copies != nullptr && !IsOwn(path) && !KeepOld(m_lastPath)) {
@@ -80,23 +60,25 @@ bool DesignFiles::KeepOld(const std::string& path)
     if (!fs::is_regular_file(path, none) || access(path.c_str(), W_OK) != 0) {
         return true; // there is nothing to keep, or the save fails for a reason of its own
     }
-    int error = 0;
-    const auto old = ReadInput(path, kMostFileBytes, error);
-    if (!old) {
-        m_outcome.error = error;
-        return false;
+    // What stood under the other name goes, and may be the only one of its kind.
+    const std::string kept = path + "~";
+    KeepAmongCopies(kept);
+    const int error = CopyFileBeside(path, kept);
+    if (error == EACCES || error == EPERM || error == EROFS) {
+        return true; // the folder cannot be written: the save itself puts a copy aside, or fails
     }
-    const bool rescued =
-        IsDesignText(*old) && !m_copies->Keep(RescueReason::Replaced, *old, TitleOf(*old), path).empty();
-    if (NameToo(path, path + "~", *old) || rescued) {
+    if (KeepAmongCopies(path) || error == 0) {
         return true;
     }
-    // In a folder that cannot be written the save itself puts a copy aside.
-    if (access(fs::path(path).parent_path().c_str(), W_OK) != 0) {
-        return true;
-    }
-    m_outcome.error = EACCES;
+    m_outcome.error = error;
     return false;
+}
+
+/// Keeps a file among the rescue copies, if it is a design. False if none is kept.
+bool DesignFiles::KeepAmongCopies(const std::string& path)
+{
+    const auto bytes = ReadFileBytes(path.c_str(), kMostKeptBytes + 1);
+    return bytes && IsDesignText(*bytes) && !m_copies->KeepReplaced(*bytes, path).empty();
 }
 
 std::string DesignFiles::LastText(int language) const

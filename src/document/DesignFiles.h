@@ -41,6 +41,7 @@ public:
 private:
     bool IsOwn(const std::string& path) const;
     bool KeepOld(const std::string& path);
+    bool KeepAmongCopies(const std::string& path);
 
     RescueCopies* m_copies = nullptr;
     std::set<std::string> m_own; ///< absolute paths without links

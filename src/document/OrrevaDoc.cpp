@@ -15,6 +15,7 @@
 #include "lib/text/FormatText.h"
 #include "lib/text/Log.h"
 #include "lib/text/Numbers.h"
+#include "model/analysis/Recalculation.h"
 #include "model/optics/CentreMarks.h"
 
 #include <algorithm>
@@ -107,26 +108,11 @@ void COrrevaDoc::Recalculate()
 
 void COrrevaDoc::ComputeFigures()
 {
-    COrrevaData& data = *active_record;
-    {
-        // On a fresh record the first read of z is infinite, and with it this angle a NaN.
-        const double z = data.GetFocalPlaneHeight();
-        const double m = data.GetSecondaryDiameter();
-        const double f = data.GetFocalLength();
-        const double D = data.GetMirrorDiameter();
-        field_angle_100 = FullFieldAngle(D, f, m, z);
-    }
-    {
-        const double z = data.GetFocalPlaneHeight();
-        const double m = data.GetSecondaryDiameter();
-        const double f = data.GetFocalLength();
-        const double D = data.GetMirrorDiameter();
-        field_diameter_100 = FullFieldDiameter(D, f, m, z);
-    }
-    mirror_back_position = data.GetDistanceBack();
-    mirror_front_position = data.GetMirrorThickness() + mirror_back_position;
-    // The menus ask for the kind of tube at every refresh, so that it never stays unset.
-    data.GetTubeType();
+    const Recalculation result = ::Recalculate(*active_record);
+    field_angle_100 = result.field.angle;
+    field_diameter_100 = result.field.diameter;
+    mirror_back_position = result.mirror_back_position;
+    mirror_front_position = result.mirror_front_position;
 }
 
 void COrrevaDoc::DropTelescope()
@@ -260,8 +246,13 @@ bool COrrevaDoc::OpenOldFormat(const char* path)
         Tell(m_host, kNotOpened, path);
         return false;
     }
-    OldArchive archive(*bytes);
-    const bool replaces = bytes->size() >= sizeof kLastOldVersion; // a shorter file leaves the record alone
+    return OpenOldBytes(path, *bytes);
+}
+
+bool COrrevaDoc::OpenOldBytes(const char* path, std::string_view bytes)
+{
+    OldArchive archive(bytes);
+    const bool replaces = bytes.size() >= sizeof kLastOldVersion; // a shorter file leaves the record alone
     const bool read = Serialize(archive);
     if (replaces) {
         EndBarTrial();

@@ -12,6 +12,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 class OldArchive;
 
@@ -57,6 +58,8 @@ public:
     /// Opens a file of the old format. A failure is told and gives false; the record keeps what was read.
     /// After success the document's title is the file's name, until the next reset of a record.
     bool OpenOldFormat(const char* path);
+    /// The same for the bytes of such a file, which others have read.
+    bool OpenOldBytes(const char* path, std::string_view bytes);
 
     /// Raises the save prompt, which has no Cancel: the caller closes in any case.
     void OnCloseDocument();

@@ -2,6 +2,7 @@
 
 #include "document/RescueNote.h"
 #include "document/TelescopeFile.h"
+#include "document/XmlScanner.h"
 #include "lib/files/Descriptors.h"
 #include "lib/files/FileBytes.h"
 #include "lib/files/FileQueries.h"
@@ -121,6 +122,13 @@ std::string RescueCopies::Keep(RescueReason reason, std::string_view bytes, cons
 std::string RescueCopies::Keep(RescueReason reason, const COrrevaData& record)
 {
     return Keep(reason, WriteTelescope(record), record.GetTitle().GetText(), record.file_path.GetText());
+}
+
+std::string RescueCopies::KeepReplaced(std::string_view bytes, const std::string& path)
+{
+    COrrevaData record;
+    ReadTelescope(XmlScanner::FromText(bytes), record);
+    return Keep(RescueReason::Replaced, bytes, record.GetTitle().GetText(), path);
 }
 
 bool RescueCopies::WriteCopy(const std::string& id, const RescueNote& note, std::string_view bytes)

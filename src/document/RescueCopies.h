@@ -53,6 +53,8 @@ public:
     std::string Keep(RescueReason reason, std::string_view bytes, const std::string& title,
                      const std::string& path);
     std::string Keep(RescueReason reason, const COrrevaData& record);
+    /// Keeps the bytes of the file at `path`, which is about to be written over.
+    std::string KeepReplaced(std::string_view bytes, const std::string& path);
 
     /// Writes the live copy of this program, or writes it anew. False if it cannot.
     bool WriteLive(const COrrevaData& record);

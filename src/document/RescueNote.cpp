@@ -35,15 +35,13 @@ std::string Escaped(std::string_view text)
 std::string Unescaped(std::string_view text)
 {
     std::string plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::size_t high = i + 2 < text.size() + 0 ? kHexDigits.find(text[i + 1]) : std::string::npos;
-        const std::size_t low = high != std::string::npos ? kHexDigits.find(text[i + 2]) : std::string::npos;
-        if (text[i] == '%' && low != std::string::npos) {
-            plain += static_cast<char>(high * 16 + low);
-            i += 2;
-        } else {
-            plain += text[i];
-        }
+    while (!text.empty()) {
+        const bool escape = text.size() > 2 && text[0] == '%';
+        const std::size_t high = escape ? kHexDigits.find(text[1]) : std::string::npos;
+        const std::size_t low = escape ? kHexDigits.find(text[2]) : std::string::npos;
+        const bool good = high != std::string::npos && low != std::string::npos;
+        plain += good ? static_cast<char>(high * 16 + low) : text[0];
+        text.remove_prefix(good ? 3 : 1);
     }
     return plain;
 }

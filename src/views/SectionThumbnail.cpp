@@ -3,14 +3,6 @@
 #include "document/History.h"
 #include "drawing/SectionPicture.h"
 #include "lib/text/Language.h"
-#include "painting/PainterSurface.h"
-
-#include <QPainter>
-
-CSectionThumbnail::CSectionThumbnail(QWidget* parent) : QWidget(parent)
-{
-    setAttribute(Qt::WA_OpaquePaintEvent);
-}
 
 void CSectionThumbnail::SetTelescope(const COrrevaData* record)
 {
@@ -22,12 +14,10 @@ void CSectionThumbnail::SetTelescope(const COrrevaData* record)
     update();
 }
 
-void CSectionThumbnail::paintEvent(QPaintEvent*)
+void CSectionThumbnail::Paint(Surface& surface)
 {
-    QPainter painter(this);
-    PainterSurface surface(painter, width(), height());
     if (!m_telescope.HasFile()) {
-        painter.fillRect(rect(), palette().base());
+        surface.FillRect({0, 0, surface.Width(), surface.Height()}, kWhite);
         return;
     }
     SectionZoom whole;

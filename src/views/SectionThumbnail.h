@@ -1,21 +1,20 @@
 #pragma once
 
 #include "model/record/OrrevaData.h"
-
-#include <QWidget>
+#include "views/PictureWidget.h"
 
 /// A small cross-section of a telescope that is in no document, without rays.
-class CSectionThumbnail : public QWidget {
+class CSectionThumbnail : public CPictureWidget {
     Q_OBJECT
 
 public:
-    explicit CSectionThumbnail(QWidget* parent = nullptr);
+    explicit CSectionThumbnail(QWidget* parent = nullptr) : CPictureWidget(parent) {}
 
     /// Shows another telescope; null for none.
     void SetTelescope(const COrrevaData* record);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void Paint(Surface& surface) override;
 
 private:
     COrrevaData m_telescope;

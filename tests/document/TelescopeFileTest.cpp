@@ -381,8 +381,8 @@ TEST(TelescopeFile, SurvivesOddFiles)
                                  std::string("\x00\xFF\xFE<telescope", 14)};
     for (const std::string& bytes : files) {
         folder.Write("odd", bytes);
-        DesignFiles files;
-        COrrevaData data(nullptr, &files);
+        DesignFiles designs;
+        COrrevaData data(nullptr, &designs);
         EXPECT_EQ(0, data.Load("odd"));
         EXPECT_EQ(0, data.mirror_diameter);
     }

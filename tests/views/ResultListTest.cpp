@@ -27,6 +27,23 @@ TEST(ResultList, InsertsEachRowAtTheTop)
     EXPECT_EQ(0, list.RowCount());
 }
 
+TEST(ResultList, AnIndexThatIsNoneShowsNothing)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{"first", "1"}});
+    const QAbstractItemModel& model = *list.QTreeView::model();
+    for (const int role : {static_cast<int>(Qt::DisplayRole), static_cast<int>(Qt::TextAlignmentRole)}) {
+        EXPECT_TRUE(model.data(model.index(0, 1), role).isValid());
+        EXPECT_FALSE(model.data({}, role).isValid());
+        EXPECT_FALSE(model.headerData(-1, Qt::Horizontal, role).isValid());
+        EXPECT_FALSE(model.headerData(2, Qt::Horizontal, role).isValid());
+    }
+    const QModelIndex once = model.index(0, 1);
+    list.SetRows({});
+    EXPECT_FALSE(model.data(once, Qt::DisplayRole).isValid()) << "of a row that is no more";
+}
+
 TEST(ResultList, CopiesTheSelectedRowsAsText)
 {
     CResultList list;

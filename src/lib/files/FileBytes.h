@@ -72,6 +72,10 @@ private:
     SaveOutcome m_outcome;
 };
 
+/// Copies a file, with its rights and its time, to `copy` beside it, whole or not at all; what stands there
+/// is replaced. 0, or the system's code of what failed.
+int CopyFileBeside(const std::string& path, const std::string& copy);
+
 /// Replaces a file whole or not at all, as FileReplacement does. A file that may not be written, a directory,
 /// a missing folder or a full disk leave everything as it was.
 SaveOutcome ReplaceFile(const char* pszPath, std::string_view bytes, const PutAside& putAside = {});

@@ -224,6 +224,23 @@ bool FileReplacement::WriteInPlace()
     return false;
 }
 
+int CopyFileBeside(const std::string& path, const std::string& copy)
+{
+    const Descriptor from(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat old = {};
+    TemporaryFile file;
+    if (!from || fstat(from.Number(), &old) != 0 || !file.Make(fs::path(copy).parent_path().string(), 0600)) {
+        return errno;
+    }
+    TakeRights(file.Number(), path, old);
+    if (!CopyAll(from.Number(), file.Number())) {
+        return errno;
+    }
+    const timespec times[] = {old.st_atim, old.st_mtim};
+    futimens(file.Number(), times); // so that one sees how old it is
+    return fsync(file.Number()) == 0 && file.RenameTo(copy) ? 0 : errno;
+}
+
 SaveOutcome ReplaceFile(const char* pszPath, std::string_view bytes, const PutAside& putAside)
 {
     FileReplacement file(pszPath, putAside);
