@@ -1,5 +1,6 @@
 #include "app/ProgramStyle.h"
 
+#include "views/ProgramIcon.h"
 #include "views/ResultList.h"
 
 #include <QHeaderView>
@@ -36,4 +37,17 @@ int CProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
     const int desktops = QProxyStyle::pixelMetric(metric, option, widget);
     const bool margin = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
     return margin && IsOfResultList(widget) ? desktops + kColumnGap : desktops;
+}
+
+QIcon CProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_ToolBarHorizontalExtensionButton:
+        return ProgramIcon("more");
+    case SP_ToolBarVerticalExtensionButton:
+        return ProgramIcon("more-below");
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
 }

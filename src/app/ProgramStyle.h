@@ -2,9 +2,10 @@
 
 #include <QProxyStyle>
 
-/// The desktop's own style with two habits of this program: a field that only shows a result has the colour
+/// The desktop's own style with three habits of this program: a field that only shows a result has the colour
 /// of the dialog, so that it does not look like one to type into, and the columns of a result list stand
-/// apart, also where a number at the right meets a text at the left.
+/// apart, also where a number at the right meets a text at the left. The buttons that open the rest of a bar
+/// take an icon of the program: the toolkit's would open every plugin of pictures at the start.
 class CProgramStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -12,4 +13,5 @@ public:
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
 };
