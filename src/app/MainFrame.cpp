@@ -4,6 +4,7 @@
 #include "app/MyDialogBar.h"
 #include "app/Printing.h"
 #include "app/ThreadLocale.h"
+#include "app/ToolWindows.h"
 #include "document/Commands.h"
 #include "lib/text/Language.h"
 #include "pages/dialogs/AboutBox.h"
@@ -41,6 +42,7 @@ CMainFrame::CMainFrame(COrrevaDoc& doc, const CThreadLocale& locale)
     CreatePanes();
     BindActions();
     BindAccelerators();
+    m_toolWindows = new CToolWindows(*this, *m_ui->statusBar, m_document);
     SetDocumentTitle({});
     UpdateActions();
 }
@@ -119,6 +121,7 @@ void CMainFrame::UpdateAllViews()
     m_left->update();
     m_right->update();
     UpdateActions();
+    emit ViewsUpdated();
 }
 
 void CMainFrame::UpdateActions()
@@ -186,6 +189,12 @@ void CMainFrame::RunDesktopCommand(int id)
         break;
     case command_id::kAbout:
         CAboutBox(m_threadLocale.IsGerman(), this).exec();
+        break;
+    case command_id::kDesignCheck:
+        m_toolWindows->OpenDesignCheck();
+        break;
+    case command_id::kCompare:
+        m_toolWindows->OpenCompare();
         break;
     default:
         break; // the toolkit's save and the view styles: nothing

@@ -9,6 +9,7 @@
 class CLeftView;
 class CMyDialogBar;
 class CThreadLocale;
+class CToolWindows;
 class COrrevaDoc;
 class COrrevaView;
 class KeyIndicators;
@@ -45,6 +46,8 @@ public:
 
 signals:
     void LanguageChosen(int language);
+    /// All views have been told to repaint.
+    void ViewsUpdated();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -64,6 +67,7 @@ private:
     CLeftView* m_left = nullptr;
     COrrevaView* m_right = nullptr;
     CMyDialogBar* m_dialogBar = nullptr;
+    CToolWindows* m_toolWindows = nullptr;
     CPane* m_active = nullptr;
     bool m_closing = false;
 };

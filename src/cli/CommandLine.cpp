@@ -12,17 +12,21 @@
 
 namespace {
 
-constexpr std::uint32_t kTelescopeVerbs = kReport | kRays | kDraw | kSaveVerb | kExport;
-constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc;
-constexpr std::uint32_t kTableVerbs = kReport; ///< those that print tables in several forms
+constexpr std::uint32_t kTelescopeVerbs =
+    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck;
+constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kCompare;
+constexpr std::uint32_t kTableVerbs =
+    kReport | kValues | kSweep | kCompare | kCheck; ///< those that print tables in several forms
 
 struct VerbName {
     std::string_view name;
     Verb verb;
 };
 
-constexpr VerbName kVerbs[] = {{"report", kReport}, {"rays", kRays},     {"draw", kDraw}, {"save", kSaveVerb},
-                               {"import", kImport}, {"export", kExport}, {"calc", kCalc}};
+constexpr VerbName kVerbs[] = {{"report", kReport},   {"rays", kRays},     {"draw", kDraw},
+                               {"save", kSaveVerb},   {"import", kImport}, {"export", kExport},
+                               {"calc", kCalc},       {"values", kValues}, {"sweep", kSweep},
+                               {"compare", kCompare}, {"check", kCheck}};
 
 struct Option {
     std::string_view name;
@@ -48,6 +52,10 @@ constexpr Option kOptions[] = {
     {"--template", true, kReport},
     {"--method", true, kReport},
     {"--source", true, kReport},
+    {"--only", true, kValues},
+    {"--vary", true, kSweep},
+    {"--show", true, kSweep},
+    {"--jobs", true, kSweep},
     {"--mode", true, kRays | kDraw},
     {"--pointer", true, kRays | kDraw},
     {"--hide-lost", false, kRays},

@@ -16,6 +16,10 @@ enum Verb : std::uint32_t {
     kImport = 16,
     kExport = 32,
     kCalc = 64,
+    kValues = 128,
+    kSweep = 256,
+    kCompare = 512,
+    kCheck = 1024,
 };
 
 /// The command line, taken apart: the verb, the words that are no options, and the options in their order.

@@ -57,6 +57,8 @@ constexpr Command kCommands[] = {
     Opens(id::kInchCalculator, Always, Modal::InchCalculator),
     Opens(id::kPolygonCalculator, Always, Modal::PolygonCalculator),
     Opens(id::kSectorCalculator, Always, Modal::SectorCalculator),
+    Desktop(id::kDesignCheck, Loaded),
+    Desktop(id::kCompare, Loaded),
     Desktop(id::kForum, Always),
     Desktop(id::kHandbook, Always),
     Desktop(id::kHelpThemes, Always),
@@ -68,9 +70,9 @@ constexpr Command kCommands[] = {
 
 // Ctrl+O opens the old format, and Ctrl+S is the toolkit's save, which stores nothing. Kept.
 constexpr Accelerator kAccelerators[] = {
-    {"Ctrl+N", id::kNewQuick},      {"Ctrl+E", id::kProperties},  {"Ctrl+O", id::kImportOld},
-    {"Ctrl+P", id::kPrint},         {"Ctrl+S", id::kToolkitSave}, {"F1", id::kHelp},
-    {"Shift+F1", id::kContextHelp},
+    {"Ctrl+N", id::kNewQuick}, {"Ctrl+E", id::kProperties},    {"Ctrl+O", id::kImportOld},
+    {"Ctrl+P", id::kPrint},    {"Ctrl+S", id::kToolkitSave},   {"F1", id::kHelp},
+    {"F8", id::kDesignCheck},  {"Shift+F1", id::kContextHelp},
 };
 
 } // namespace

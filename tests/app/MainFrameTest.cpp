@@ -99,6 +99,8 @@ constexpr MenuRow kMenuTexts[] = {
     {32777, "Inch/mm Calculator", "Zoll Rechner"},
     {32788, "Polygon Calculator", "Mehreck Rechner"},
     {32791, "Sector Calculator", "Kreisausschnitt Rechner"},
+    {33021, "Design check\tF8", "Entwurf prüfen\tF8"},
+    {33022, "Compare designs...", "Entwürfe vergleichen..."},
     {32790, "Orreva Support Forum", "Orreva Diskussionsforum"},
     {32810, "Orreva Wiki-Handbook", "Orreva Wiki-Handbook"},
 };

@@ -1,0 +1,105 @@
+#include "app/ToolWindows.h"
+
+#include "app/FieldOpener.h"
+#include "app/MainFrame.h"
+#include "document/FileMasks.h"
+#include "document/OrrevaDoc.h"
+#include "document/TelescopeFile.h"
+#include "document/XmlScanner.h"
+#include "lib/text/CodePage.h"
+#include "lib/text/FormatText.h"
+#include "lib/text/Language.h"
+#include "windows/CompareWindow.h"
+#include "windows/DesignCheckField.h"
+#include "windows/DesignCheckWindow.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStatusBar>
+
+namespace {
+
+constexpr Bilingual kNotRead{"The file %s cannot be opened.",
+                             "Die Datei %s kann nicht geöffnet werden."_cp1252};
+
+void BringUp(QWidget& window)
+{
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+CToolWindows::CToolWindows(CMainFrame& frame, QStatusBar& bar, COrrevaDoc& document)
+    : QObject(&frame), m_frame(frame), m_document(document), m_checkField(new CDesignCheckField(&bar))
+{
+    bar.addPermanentWidget(m_checkField);
+    m_checkField->ShowNothing(); // the bar has shown it
+    connect(m_checkField, &QToolButton::clicked, this, &CToolWindows::OpenDesignCheck);
+    connect(&frame, &CMainFrame::ViewsUpdated, this, &CToolWindows::Follow);
+}
+
+void CToolWindows::OpenDesignCheck()
+{
+    if (m_checkWindow == nullptr) {
+        m_checkWindow = new CDesignCheckWindow(&m_frame);
+        connect(m_checkWindow, &CDesignCheckWindow::FieldWanted, this,
+                [this](const QString& key) { OpenField(m_document, key.toLatin1().constData()); });
+        FollowCheck();
+    }
+    BringUp(*m_checkWindow);
+}
+
+void CToolWindows::OpenCompare()
+{
+    const std::string path = m_document.Host().AskPath(kOpenTelescope);
+    if (path.empty()) {
+        return;
+    }
+    const XmlScanner file(path.c_str());
+    if (!file.HasText()) {
+        const std::string shown = Cp1252FromUtf8(path);
+        m_document.Host().ShowMessage(FormatText(kNotRead.In(g_nLanguage), shown.c_str()).c_str());
+        return;
+    }
+    COrrevaData other;
+    ReadTelescope(file, other);
+    if (m_compareWindow == nullptr) {
+        m_compareWindow = new CCompareWindow(&m_frame);
+        connect(m_compareWindow, &CCompareWindow::FileWanted, this, &CToolWindows::OpenCompare);
+    }
+    m_compareWindow->ShowOther(other, QFileInfo(QFile::decodeName(path.c_str())).fileName());
+    BringUp(*m_compareWindow);
+    FollowCompare();
+}
+
+void CToolWindows::Follow()
+{
+    FollowCheck();
+    FollowCompare();
+}
+
+void CToolWindows::FollowCompare()
+{
+    if (m_compareWindow != nullptr && m_compareWindow->isVisible() && m_document.HasFile()) {
+        m_compareWindow->ShowPresent(*m_document.active_record);
+    }
+}
+
+void CToolWindows::FollowCheck()
+{
+    if (!m_document.HasFile()) {
+        m_checkField->ShowNothing();
+        if (m_checkWindow != nullptr) {
+            m_checkWindow->ShowNothing();
+        }
+        return;
+    }
+    const std::vector<DesignFinding> findings =
+        CheckDesign(DesignCopy(*m_document.active_record).State(), g_nLanguage);
+    m_checkField->ShowFindings(findings);
+    if (m_checkWindow != nullptr) {
+        m_checkWindow->ShowFindings(findings);
+    }
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+
+class CDesignCheckField;
+class CCompareWindow;
+class CDesignCheckWindow;
+class CMainFrame;
+class COrrevaDoc;
+class QStatusBar;
+
+/// The windows that stand beside the workbench and follow its design, and the field of the design check, the
+/// last one of the status bar. A window is built when it is first asked for.
+class CToolWindows : public QObject {
+    Q_OBJECT
+
+public:
+    CToolWindows(CMainFrame& frame, QStatusBar& bar, COrrevaDoc& document);
+
+    void OpenDesignCheck();
+    /// Asks for the file of the other design; nothing for Cancel.
+    void OpenCompare();
+
+private:
+    /// Looks at a copy of the design: the record's first readings are its own.
+    void Follow();
+    void FollowCheck();
+    void FollowCompare();
+
+    CMainFrame& m_frame;
+    COrrevaDoc& m_document;
+    CDesignCheckField* m_checkField;
+    CDesignCheckWindow* m_checkWindow = nullptr;
+    CCompareWindow* m_compareWindow = nullptr;
+};
