@@ -3,6 +3,7 @@
 #include "views/Pane.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include <memory>
 
@@ -14,6 +15,8 @@ class COrrevaDoc;
 class COrrevaView;
 class KeyIndicators;
 class QAction;
+class QLabel;
+class QMimeData;
 class QSplitter;
 
 namespace Ui {
@@ -32,8 +35,12 @@ public:
 
     /// The caption is the document's title with " - Orreva" behind it; "Orreva" for an empty title.
     void SetDocumentTitle(const QString& title);
-    /// Repaints both panes and refreshes what the actions show.
+    /// Repaints both panes and refreshes what actions, bar and status bar show.
     void UpdateAllViews();
+    /// The message of the status bar, empty for none.
+    void ShowStatus(const QString& text);
+    /// Refreshes what actions, bar and status bar show; no pane is repainted.
+    void Refresh();
     /// Keeps panes and what-if bar from the record: they neither read nor write it.
     void Freeze(bool frozen);
 
@@ -50,14 +57,20 @@ signals:
     void ViewsUpdated();
 
 protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void CreateBars();
+    void CreateStatusFields();
     void CreatePanes();
     void BindActions();
     void BindAccelerators();
     void UpdateActions();
+    void UpdateStatusFields();
+    void KeepLiveCopy();
+    bool IsBusy() const;
     void UpdateViewStyles(QAction& action, int id);
     void RunDesktopCommand(int id);
 
@@ -69,5 +82,9 @@ private:
     CMyDialogBar* m_dialogBar = nullptr;
     CToolWindows* m_toolWindows = nullptr;
     CPane* m_active = nullptr;
+    QLabel* m_message = nullptr;
+    QLabel* m_trial = nullptr;
+    QLabel* m_state = nullptr;
+    QTimer m_keeper; ///< runs while the record is modified
     bool m_closing = false;
 };

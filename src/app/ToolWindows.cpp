@@ -2,6 +2,7 @@
 
 #include "app/FieldOpener.h"
 #include "app/MainFrame.h"
+#include "app/MyDialogBar.h"
 #include "document/FileMasks.h"
 #include "document/OrrevaDoc.h"
 #include "document/TelescopeFile.h"
@@ -12,6 +13,7 @@
 #include "windows/CompareWindow.h"
 #include "windows/DesignCheckField.h"
 #include "windows/DesignCheckWindow.h"
+#include "windows/VariationWindow.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -31,8 +33,9 @@ void BringUp(QWidget& window)
 
 } // namespace
 
-CToolWindows::CToolWindows(CMainFrame& frame, QStatusBar& bar, COrrevaDoc& document)
-    : QObject(&frame), m_frame(frame), m_document(document), m_checkField(new CDesignCheckField(&bar))
+CToolWindows::CToolWindows(CMainFrame& frame, QStatusBar& bar, CMyDialogBar& whatIfBar, COrrevaDoc& document)
+    : QObject(&frame), m_frame(frame), m_whatIfBar(whatIfBar), m_document(document),
+      m_checkField(new CDesignCheckField(&bar))
 {
     bar.addPermanentWidget(m_checkField);
     m_checkField->ShowNothing(); // the bar has shown it
@@ -58,7 +61,7 @@ void CToolWindows::OpenCompare()
         return;
     }
     const XmlScanner file(path.c_str());
-    if (!file.HasText()) {
+    if (!file.HasText() || !file.IsDesign()) {
         const std::string shown = Cp1252FromUtf8(path);
         m_document.Host().ShowMessage(FormatText(kNotRead.In(g_nLanguage), shown.c_str()).c_str());
         return;
@@ -74,10 +77,31 @@ void CToolWindows::OpenCompare()
     FollowCompare();
 }
 
+void CToolWindows::OpenVariation()
+{
+    if (m_variationWindow == nullptr) {
+        m_variationWindow = new CVariationWindow(&m_frame);
+        connect(m_variationWindow, &CVariationWindow::TrialWanted, this,
+                [this](const RecordField* field, double value) {
+                    m_whatIfBar.TryValue(std::get<RealField>(field->field).set, value);
+                });
+    }
+    BringUp(*m_variationWindow);
+    FollowVariation();
+}
+
 void CToolWindows::Follow()
 {
     FollowCheck();
     FollowCompare();
+    FollowVariation();
+}
+
+void CToolWindows::FollowVariation()
+{
+    if (m_variationWindow != nullptr && m_variationWindow->isVisible() && m_document.HasFile()) {
+        m_variationWindow->ShowPresent(*m_document.active_record);
+    }
 }
 
 void CToolWindows::FollowCompare()

@@ -6,7 +6,9 @@ class CDesignCheckField;
 class CCompareWindow;
 class CDesignCheckWindow;
 class CMainFrame;
+class CMyDialogBar;
 class COrrevaDoc;
+class CVariationWindow;
 class QStatusBar;
 
 /// The windows that stand beside the workbench and follow its design, and the field of the design check, the
@@ -15,21 +17,25 @@ class CToolWindows : public QObject {
     Q_OBJECT
 
 public:
-    CToolWindows(CMainFrame& frame, QStatusBar& bar, COrrevaDoc& document);
+    CToolWindows(CMainFrame& frame, QStatusBar& bar, CMyDialogBar& whatIfBar, COrrevaDoc& document);
 
     void OpenDesignCheck();
     /// Asks for the file of the other design; nothing for Cancel.
     void OpenCompare();
+    void OpenVariation();
 
 private:
     /// Looks at a copy of the design: the record's first readings are its own.
     void Follow();
     void FollowCheck();
     void FollowCompare();
+    void FollowVariation();
 
     CMainFrame& m_frame;
+    CMyDialogBar& m_whatIfBar;
     COrrevaDoc& m_document;
     CDesignCheckField* m_checkField;
     CDesignCheckWindow* m_checkWindow = nullptr;
     CCompareWindow* m_compareWindow = nullptr;
+    CVariationWindow* m_variationWindow = nullptr;
 };

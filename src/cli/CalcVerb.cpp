@@ -55,11 +55,11 @@ std::optional<std::string> ReadLine()
 int CalcVerb(const std::vector<std::string>& expressions, const std::string& outputPath)
 {
     Answers answers(outputPath);
-    for (const std::string& expression : expressions) {
-        answers.Give(expression);
+    bool more = true;
+    for (std::size_t i = 0; more && i < expressions.size(); ++i) {
+        more = answers.Give(expressions[i]);
     }
     if (expressions.empty()) {
-        bool more = true;
         for (auto line = ReadLine(); more && line; line = ReadLine()) {
             more = answers.Give(*line);
         }

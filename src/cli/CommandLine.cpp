@@ -14,9 +14,9 @@ namespace {
 
 constexpr std::uint32_t kTelescopeVerbs =
     kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck;
-constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kCompare;
+constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kCompare | kRescue;
 constexpr std::uint32_t kTableVerbs =
-    kReport | kValues | kSweep | kCompare | kCheck; ///< those that print tables in several forms
+    kReport | kValues | kSweep | kCompare | kCheck | kRescue; ///< those that print tables in several forms
 
 struct VerbName {
     std::string_view name;
@@ -26,7 +26,7 @@ struct VerbName {
 constexpr VerbName kVerbs[] = {{"report", kReport},   {"rays", kRays},     {"draw", kDraw},
                                {"save", kSaveVerb},   {"import", kImport}, {"export", kExport},
                                {"calc", kCalc},       {"values", kValues}, {"sweep", kSweep},
-                               {"compare", kCompare}, {"check", kCheck}};
+                               {"compare", kCompare}, {"check", kCheck},   {"rescue", kRescue}};
 
 struct Option {
     std::string_view name;

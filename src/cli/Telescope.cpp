@@ -1,8 +1,9 @@
 #include "cli/Telescope.h"
 
 #include "cli/CommandLine.h"
-#include "cli/Output.h"
-#include "lib/files/FileBytes.h"
+#include "cli/Input.h"
+#include "document/TelescopeFile.h"
+#include "document/XmlScanner.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Numbers.h"
 #include "model/record/RecordFields.h"
@@ -56,6 +57,17 @@ std::vector<Setting> Settings(const CommandLine& words)
     return settings;
 }
 
+/// What the command Open does with a file, for bytes that are read already.
+void OpenText(COrrevaDoc& document, const std::string& path, std::string_view text)
+{
+    COrrevaData& record = *document.active_record;
+    record.Reset();
+    record.LoadBy(path.c_str(),
+                  [text](COrrevaData& opened) { ReadTelescope(XmlScanner::FromText(text), opened); });
+    document.Recalculate();
+    record.SetModified(0);
+}
+
 } // namespace
 
 void TerminalHost::ShowMessage(const char* text)
@@ -80,12 +92,11 @@ std::optional<std::size_t> StartTelescope(const CommandLine& words, const std::o
                 UsageError("a file does not go together with", option);
             }
         }
-        if (!ReadFileBytes(file->c_str(), 1)) {
-            Fail("cannot read " + *file);
+        const auto text = ReadInputWord(*file);
+        if (!text) {
             return std::nullopt;
         }
-        host.path = *file;
-        document.OnFileOpen();
+        OpenText(document, *file, *text);
     } else {
         // What the dialog proposes, with the fields changed that are given.
         QuickNewTexts texts = kQuickNewTexts;

@@ -6,6 +6,7 @@
 #include "cli/ExchangeVerbs.h"
 #include "cli/Output.h"
 #include "cli/RaysVerb.h"
+#include "cli/RescueVerb.h"
 #include "cli/VerbTools.h"
 #include "cli/report/Report.h"
 #include "document/TelescopeFile.h"
@@ -262,6 +263,13 @@ int Export(const CommandLine& words)
 
 int Calc(const CommandLine& words) { return CalcVerb(words.plain, OutputPath(words)); }
 
+int Rescue(const CommandLine& words)
+{
+    const TableFormat format = FormatOf(words);
+    const auto number = FileWord(words, 0);
+    return number ? WriteRescueCopy(*number, OutputPath(words)) : ListRescueCopies(format, OutputPath(words));
+}
+
 struct Entry {
     Verb verb;
     int (*run)(const CommandLine& words);
@@ -270,7 +278,7 @@ struct Entry {
 constexpr Entry kEntries[] = {{kReport, Report},       {kRays, Rays},         {kDraw, Draw},
                               {kSaveVerb, Save},       {kImport, Import},     {kExport, Export},
                               {kCalc, Calc},           {kValues, ValuesVerb}, {kSweep, SweepVerb},
-                              {kCompare, CompareVerb}, {kCheck, CheckVerb}};
+                              {kCompare, CompareVerb}, {kCheck, CheckVerb},   {kRescue, Rescue}};
 
 } // namespace
 

@@ -7,6 +7,8 @@
 #include "Version.h"
 
 #include <csignal>
+#include <new>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -25,6 +27,7 @@ constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a wind
   orreva-cli compare FILE FILE
   orreva-cli sweep  [TELESCOPE] --vary KEY=FROM:TO:COUNT... [--show NAME]... [--jobs N]
   orreva-cli calc   [EXPRESSION]...
+  orreva-cli rescue [NUMBER] [-o FILE]
 
 TELESCOPE is a design FILE, or the telescope of the quick New dialog with any of --diameter MM,
 --focal-length MM and --title TEXT; then --set KEY=VALUE, any number of times (VALUE unset: not set).
@@ -43,17 +46,15 @@ report, values, check, compare and sweep take --format text|csv|json.
 
 calc answers each expression, or each line of standard input, with one line.
 
+rescue lists the copies of designs that were left unsaved, newest first; with a NUMBER it writes that copy.
+
 Every verb takes --language en|de and -o FILE; --help and --version stand alone or behind a verb.
 Exit status: 0 done, 1 a file or an expression failed, 2 the command line is not understood, 3 check found
 errors or warnings.
 )";
 
-} // namespace
-
-int main(int argc, char** argv)
+int Run(int argc, char** argv)
 {
-    std::signal(SIGPIPE, SIG_IGN); // a reader that has seen enough ends the output as a failed write
-    SetLogSink(nullptr);           // standard error is for the user, in a debug build too
     const CommandLine words =
         ParseCommandLine(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
     if (words.help || words.version) {
@@ -63,4 +64,20 @@ int main(int argc, char** argv)
         g_nLanguage = static_cast<int>(ChoiceOf("--language", *language, {"en", "de"}));
     }
     return RunVerb(words);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::signal(SIGPIPE, SIG_IGN); // a reader that has seen enough ends the output as a failed write,
+    std::signal(SIGXFSZ, SIG_IGN); // and so does a file that may not grow
+    SetLogSink(nullptr);           // standard error is for the user, in a debug build too
+    try {
+        return Run(argc, argv);
+    } catch (const std::bad_alloc&) {
+        return Fail("not enough memory");
+    } catch (const std::length_error&) {
+        return Fail("not enough memory"); // what no memory could hold
+    }
 }

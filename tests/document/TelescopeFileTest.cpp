@@ -1,4 +1,5 @@
 #include "document/TelescopeFile.h"
+#include "document/DesignFiles.h"
 #include "document/XmlScanner.h"
 #include "lib/text/Assertion.h"
 #include "model/record/RecordFields.h"
@@ -239,7 +240,8 @@ TEST(TelescopeFile, AZeroByteEndsTheText)
 TEST(TelescopeFile, SaveWritesAndClearsModified)
 {
     const TemporaryFolder folder;
-    COrrevaData data(nullptr, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(nullptr, &files);
     data.Reset();
     data.SetModified(1);
     EXPECT_EQ(0, data.Save());
@@ -251,7 +253,8 @@ TEST(TelescopeFile, SaveAsTakesPathAndTitle)
 {
     const TemporaryFolder folder;
     RecordingHost host;
-    COrrevaData data(&host, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(&host, &files);
     host.Take();
     EXPECT_EQ(0, data.SaveAs("mine.orreva.xml"));
     EXPECT_STREQ("mine.orreva.xml", data.file_path);
@@ -265,7 +268,8 @@ TEST(TelescopeFile, AFailedSaveIsSilentAndLeavesEverything)
     std::filesystem::create_directory("folder");
     folder.Write("kept", "old bytes");
     RecordingHost host;
-    COrrevaData data(&host, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(&host, &files);
     for (const char* path : {"folder", "missing/x.orreva.xml", "/dev/full"}) {
         data.file_path = path;
         data.SetModified(1);
@@ -294,7 +298,8 @@ TEST(TelescopeFile, SavingWithoutAPathFailsByAssertion)
 {
     Answer answer;
     AssertDesktop* const before = SetAssertDesktop(&answer);
-    COrrevaData data(nullptr, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(nullptr, &files);
     EXPECT_EQ(1, data.Save());
     EXPECT_EQ(1, data.SaveAs(""));
     SetAssertDesktop(before);
@@ -307,7 +312,8 @@ TEST(TelescopeFile, LoadOfAMissingFileTellsTheRecordsOwnPathAndClears)
 {
     const TemporaryFolder folder;
     RecordingHost host;
-    COrrevaData data(&host, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(&host, &files);
     data.Reset();
     host.Take();
     EXPECT_EQ(1, data.Load("missing.orreva.xml"));
@@ -324,7 +330,8 @@ TEST(TelescopeFile, LoadTakesPathTitleAndValues)
     folder.Write("a.orreva.xml",
                  "<telescope><title>A</title><mirror><diameter>150</diameter></mirror></telescope>");
     RecordingHost host;
-    COrrevaData data(&host, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(&host, &files);
     data.SetModified(1);
     host.Take();
     EXPECT_EQ(0, data.Load("a.orreva.xml"));
@@ -340,7 +347,8 @@ TEST(TelescopeFile, LoadTakesTheRecordsOwnPath)
     const TemporaryFolder folder;
     folder.Write("a telescope whose name is longer than a short string.orreva.xml",
                  "<telescope><title>A</title><mirror><diameter>150</diameter></mirror></telescope>");
-    COrrevaData data(nullptr, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(nullptr, &files);
     data.file_path = "a telescope whose name is longer than a short string.orreva.xml";
     EXPECT_EQ(0, data.Load(data.file_path));
     EXPECT_EQ(150, data.mirror_diameter);
@@ -351,7 +359,8 @@ TEST(TelescopeFile, WhatExistsButCannotBeReadGivesZerosAndSucceeds)
 {
     const TemporaryFolder folder;
     std::filesystem::create_directory("folder");
-    COrrevaData data(nullptr, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(nullptr, &files);
     EXPECT_EQ(0, data.Load("folder"));
     EXPECT_EQ(0, data.mirror_diameter);
     EXPECT_EQ(0, data.tube_type);
@@ -372,7 +381,8 @@ TEST(TelescopeFile, SurvivesOddFiles)
                                  std::string("\x00\xFF\xFE<telescope", 14)};
     for (const std::string& bytes : files) {
         folder.Write("odd", bytes);
-        COrrevaData data(nullptr, &DesignFiles());
+        DesignFiles designs;
+        COrrevaData data(nullptr, &designs);
         EXPECT_EQ(0, data.Load("odd"));
         EXPECT_EQ(0, data.mirror_diameter);
     }

@@ -27,6 +27,23 @@ TEST(ResultList, InsertsEachRowAtTheTop)
     EXPECT_EQ(0, list.RowCount());
 }
 
+TEST(ResultList, AnIndexThatIsNoneShowsNothing)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{"first", "1"}});
+    const QAbstractItemModel& model = *list.QTreeView::model();
+    for (const int role : {static_cast<int>(Qt::DisplayRole), static_cast<int>(Qt::TextAlignmentRole)}) {
+        EXPECT_TRUE(model.data(model.index(0, 1), role).isValid());
+        EXPECT_FALSE(model.data({}, role).isValid());
+        EXPECT_FALSE(model.headerData(-1, Qt::Horizontal, role).isValid());
+        EXPECT_FALSE(model.headerData(2, Qt::Horizontal, role).isValid());
+    }
+    const QModelIndex once = model.index(0, 1);
+    list.SetRows({});
+    EXPECT_FALSE(model.data(once, Qt::DisplayRole).isValid()) << "of a row that is no more";
+}
+
 TEST(ResultList, CopiesTheSelectedRowsAsText)
 {
     CResultList list;
@@ -63,6 +80,46 @@ TEST(ResultList, CopiesFromTheTopDownInWhateverOrderRowsWereSelected)
     }
     list.CopySelection();
     EXPECT_EQ("first\t1\nthird\t3\nfifth\t5", QGuiApplication::clipboard()->text());
+}
+
+constexpr ListColumn kNarrow[] = {{{"Type", "Typ"}, 30}, {{"A heading of some length", "Wert"}, 10}};
+
+TEST(ResultList, AnEmptyListShowsItsWholeHeadings)
+{
+    CResultList list;
+    list.SetColumns(kNarrow, kEnglish);
+    for (const int column : {0, 1}) {
+        EXPECT_GE(list.columnWidth(column), list.header()->sectionSizeHint(column)) << column;
+    }
+    const QFontMetrics metrics(list.header()->font());
+    EXPECT_GT(list.columnWidth(1), metrics.horizontalAdvance("A heading of some length"));
+}
+
+TEST(ResultList, ColumnsWidenForLongValuesAndShrinkAgainWhenTheyGo)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{std::string(100, 'm'), "1"}});
+    const QFontMetrics metrics(list.font());
+    EXPECT_GT(list.columnWidth(0), metrics.horizontalAdvance(QString(100, 'm')));
+    EXPECT_EQ(150, list.columnWidth(1));
+    list.SetRows({{"short", std::string(60, 'm')}});
+    EXPECT_EQ(280, list.columnWidth(0));
+    EXPECT_GT(list.columnWidth(1), metrics.horizontalAdvance(QString(60, 'm')));
+    list.SetRows({{"short", "1"}});
+    EXPECT_EQ(150, list.columnWidth(1));
+}
+
+TEST(ResultList, AWidthThatTheUserChoseStays)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{"short", "1"}});
+    list.header()->resizeSection(0, 77);
+    list.SetRows({{std::string(100, 'm'), "1"}});
+    EXPECT_EQ(77, list.columnWidth(0));
+    list.SetRows({{"short", "1"}});
+    EXPECT_EQ(77, list.columnWidth(0));
 }
 
 TEST(ResultList, AThousandMillionRowsAreComputedWhenLookedAt)

@@ -76,12 +76,14 @@ ReportLines SecondaryReport(const ReportContext& context);
 ReportLines TubeReport(const ReportContext& context);
 ReportLines FocuserReport(const ReportContext& context);
 ReportLines CellReport(const ReportContext& context);
-ReportLines EyepiecesReport(const ReportContext& context);
+/// A long list is passed on eyepiece by eyepiece; a last line says that it goes on.
+void EyepiecesReport(const ReportContext& context, const ReportSink& sink);
 ReportLines BalanceReport(const ReportContext& context);
 
 // The optical tests and the simulated field ---------------------------------------------------------------
 
-/// The zone calculator. Its list may be longer than memory, so that no line is kept.
+/// The zone calculator. Its list may be longer than memory, so that no line is kept; behind 100,000 zones a
+/// line says that there are more.
 void FoucaultReport(const ReportContext& context, const ReportSink& sink);
 ReportLines RonchiReport(const ReportContext& context);
 ReportLines StarReport(const ReportContext& context);

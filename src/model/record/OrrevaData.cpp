@@ -62,8 +62,10 @@ void COrrevaData::Reset()
     if (modified != 0) {
         LibString prompt;
         prompt.Format(kSavePrompt.In(g_nLanguage), Cp1252FromUtf8(file_path.GetText()).c_str());
-        if (m_host != nullptr && m_host->AskYesNo(prompt)) {
-            Save();
+        const bool wanted = m_host != nullptr && m_host->AskYesNo(prompt);
+        const bool saved = wanted && Save() == 0;
+        if (!saved && m_files != nullptr) {
+            m_files->NotSaved(*this, wanted);
         }
     }
     modified = 0;
@@ -91,6 +93,13 @@ void COrrevaData::ResetCaches()
 }
 
 bool COrrevaData::HasFile() const { return *file_path.GetText() != 0; }
+
+void COrrevaData::TellStored(void (COrrevaData::*set)(double))
+{
+    if (m_host != nullptr) {
+        m_host->OnStored(set);
+    }
+}
 
 void COrrevaData::CopyTo(COrrevaData& dest) const
 {
@@ -140,13 +149,20 @@ int COrrevaData::Load(const char* path)
         Clear();
         return 1;
     }
+    LoadBy(path, [this](COrrevaData& record) {
+        if (m_files != nullptr) {
+            m_files->Read(record);
+        }
+    });
+    return 0;
+}
+
+void COrrevaData::LoadBy(const char* path, const std::function<void(COrrevaData& record)>& read)
+{
     file_path = path; // which may have been this very text
     SetTitleOfDocument();
-    if (m_files != nullptr) {
-        m_files->Read(*this);
-    }
+    read(*this);
     modified = 0;
-    return 0;
 }
 
 void COrrevaData::SetTitleOfDocument()

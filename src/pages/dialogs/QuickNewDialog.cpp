@@ -2,6 +2,7 @@
 
 #include "lib/text/Language.h"
 #include "model/analysis/QuickNewReading.h"
+#include "pages/sheet/Fields.h"
 #include "painting/QtText.h"
 
 #include "ui_QuickNewDialog.h"
@@ -10,9 +11,9 @@ CQuickNewDialog::CQuickNewDialog(const QuickNewTexts& texts, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::QuickNewDialog>())
 {
     m_ui->setupUi(this);
-    m_ui->title->setText(ToQString(texts.title));
-    m_ui->aperture->setText(ToQString(texts.aperture));
-    m_ui->focalLength->setText(ToQString(texts.focal_length));
+    ShowText(m_ui->title, texts.title);
+    ShowText(m_ui->aperture, texts.aperture);
+    ShowText(m_ui->focalLength, texts.focal_length);
     m_ui->title->selectAll();
     for (const QLineEdit* const field : {m_ui->aperture, m_ui->focalLength}) {
         connect(field, &QLineEdit::textChanged, this, &CQuickNewDialog::ShowUnderstood);
@@ -30,6 +31,5 @@ void CQuickNewDialog::ShowUnderstood()
 
 QuickNewTexts CQuickNewDialog::Texts() const
 {
-    return {FromQString(m_ui->title->text()), FromQString(m_ui->aperture->text()),
-            FromQString(m_ui->focalLength->text())};
+    return {TextOf(m_ui->title), TextOf(m_ui->aperture), TextOf(m_ui->focalLength)};
 }
