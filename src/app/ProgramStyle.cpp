@@ -1,6 +1,7 @@
 #include "app/ProgramStyle.h"
 
 #include "pages/sheet/PropertySheet.h"
+#include "views/ProgramIcon.h"
 #include "views/ResultList.h"
 
 #include <QHeaderView>
@@ -39,6 +40,19 @@ int CProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
     const int desktops = QProxyStyle::pixelMetric(metric, option, widget);
     const bool margin = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
     return margin && IsOfResultList(widget) ? desktops + kColumnGap : desktops;
+}
+
+QIcon CProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_ToolBarHorizontalExtensionButton:
+        return ProgramIcon("more");
+    case SP_ToolBarVerticalExtensionButton:
+        return ProgramIcon("more-below");
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
 }
 
 QSize CProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,

@@ -2,7 +2,7 @@
 
 #include "drawing/ChartLabels.h"
 #include "drawing/ChartLayout.h"
-#include "drawing/ClipLine.h"
+#include "drawing/ClipSegment.h"
 #include "drawing/LabelLayout.h"
 #include "lib/text/Numbers.h"
 
@@ -23,6 +23,13 @@ Point Nearer(Point at)
     constexpr double kFar = 1e7;
     return {std::clamp(at.x, -kFar, kFar), std::clamp(at.y, -kFar, kFar)};
 }
+
+Point OnWay(Point from, Point to, double share)
+{
+    return {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share};
+}
+
+Point PlaceOf(std::int32_t x, std::int32_t y) { return {static_cast<double>(x), static_cast<double>(y)}; }
 
 double ShareOf(double value, const ChartRange& range)
 {
@@ -64,11 +71,6 @@ private:
     const PixelRect& Rect() const { return m_layout.plot.rect; }
     std::int32_t Right() const { return Rect().right - 1; }
     std::int32_t Bottom() const { return Rect().bottom - 1; }
-    ClipBox Box() const
-    {
-        return {static_cast<double>(Rect().left), static_cast<double>(Rect().top),
-                static_cast<double>(Right()), static_cast<double>(Bottom())};
-    }
     std::int32_t ColumnOf(double x) const { return NearestPixel(m_layout.plot.PixelOf({x, 0})).x; }
     std::int32_t RowOf(double y, ChartSide side = ChartSide::kLeft) const
     {
@@ -213,13 +215,17 @@ private:
 
     void PaintPiece(const ChartLine& line, Point from, Point to)
     {
-        const auto part = ClipLine({Nearer(from), Nearer(to)}, Box());
+        from = Nearer(from);
+        to = Nearer(to);
+        const auto part = ClipSegment(from, to, PlaceOf(Rect().left, Rect().top), PlaceOf(Right(), Bottom()));
         if (!part) {
             return;
         }
-        m_labels.AddLine(part->from, part->to);
-        const Pixel start = NearestPixel(part->from);
-        const Pixel end = NearestPixel(part->to);
+        const Point first = OnWay(from, to, part->enter);
+        const Point last = OnWay(from, to, part->leave);
+        m_labels.AddLine(first, last);
+        const Pixel start = NearestPixel(first);
+        const Pixel end = NearestPixel(last);
         m_surface.Line(start, end, line.colour);
         if (line.bold) {
             // A second line beside it, across the way that it goes.
@@ -272,8 +278,7 @@ private:
 
     void PaintMarkLine(Pixel from, Pixel to, const ChartMark& mark)
     {
-        m_labels.AddLine({static_cast<double>(from.x), static_cast<double>(from.y)},
-                         {static_cast<double>(to.x), static_cast<double>(to.y)});
+        m_labels.AddLine(PlaceOf(from.x, from.y), PlaceOf(to.x, to.y));
         if (mark.solid) {
             m_surface.Line(from, to, mark.colour);
             return;

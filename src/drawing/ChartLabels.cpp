@@ -1,7 +1,7 @@
 #include "drawing/ChartLabels.h"
 
 #include "drawing/ChartLayout.h"
-#include "drawing/ClipLine.h"
+#include "drawing/ClipSegment.h"
 
 #include <algorithm>
 #include <cmath>
@@ -25,16 +25,18 @@ void ChartLabels::AddLine(Point from, Point to)
 {
     const double left = m_plot.left;
     const double top = m_plot.top;
-    const auto part = ClipLine({from, to}, {left, top, m_plot.right - 1.0, m_plot.bottom - 1.0});
+    const auto part = ClipSegment(from, to, {left, top}, {m_plot.right - 1.0, m_plot.bottom - 1.0});
     if (!part) {
         return;
     }
-    const double dx = part->to.x - part->from.x;
-    const double dy = part->to.y - part->from.y;
-    const int steps = static_cast<int>(std::max(std::fabs(dx), std::fabs(dy)) * 2 / kCell) + 1;
+    const double dx = to.x - from.x;
+    const double dy = to.y - from.y;
+    const double length = std::max(std::fabs(dx), std::fabs(dy)) * (part->leave - part->enter);
+    const int steps = static_cast<int>(length * 2 / kCell) + 1;
     for (int i = 0; i <= steps; ++i) {
-        const auto column = static_cast<std::int32_t>((part->from.x + dx * i / steps - left) / kCell);
-        const auto row = static_cast<std::int32_t>((part->from.y + dy * i / steps - top) / kCell);
+        const double share = part->enter + (part->leave - part->enter) * i / steps;
+        const auto column = static_cast<std::int32_t>((from.x + dx * share - left) / kCell);
+        const auto row = static_cast<std::int32_t>((from.y + dy * share - top) / kCell);
         m_cells[static_cast<std::size_t>(row * m_columns + column)] |= kLine;
     }
 }
