@@ -25,6 +25,9 @@ public:
     bool AskQuickNew(QuickNewTexts& texts) override;
     bool AskRaytracingSettings(std::uint8_t miss_in_grey) override;
     bool RunModal(Modal modal) override;
+    void ShowStatus(const char* text) override;
+    std::optional<std::size_t> AskEarlierDesign(std::span<const RescueCopy> copies,
+                                                std::optional<std::size_t> selected) override;
 
     AssertAnswer AskAssert(const char* title, const char* text) override;
     void CloseMainWindow() override;

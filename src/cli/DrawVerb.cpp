@@ -2,6 +2,7 @@
 
 #include "cli/Output.h"
 #include "drawing/FieldPicture.h"
+#include "drawing/IlluminationPicture.h"
 #include "drawing/MirrorPanelPicture.h"
 #include "drawing/PolygonPicture.h"
 #include "drawing/RonchiPicture.h"
@@ -82,11 +83,33 @@ void PaintSectorPicture(Surface& surface, const DrawContext& context)
     PaintSector(surface, {options.diameter, options.value, options.type}, context.language);
 }
 
+void PaintIlluminationPicture(Surface& surface, const DrawContext& context)
+{
+    const IlluminationStops stops = ReadIlluminationStops(context.record);
+    const double wanted = context.record.GetWanted100PercentFow();
+    PaintChart(surface, IlluminationChart(stops, wanted, {}, kLightIllumination, context.language),
+               kLightChart);
+}
+
+void PaintSecondaryChoicePicture(Surface& surface, const DrawContext& context)
+{
+    const IlluminationStops stops = ReadIlluminationStops(context.record);
+    const double wanted = context.record.GetWanted100PercentFow();
+    PaintChart(surface, SecondaryChoiceChart(stops, wanted, kLightIllumination, context.language),
+               kLightChart);
+}
+
 constexpr NamedPicture kPictures[] = {
-    {"section", PaintSectionPicture},      {"summary", PaintSummaryPicture},
-    {"tube-panel", PaintTubePanelPicture}, {"mirror-panel", PaintMirrorPanelPicture},
-    {"field", PaintFieldPicture},          {"ronchi", PaintRonchiPicture},
-    {"polygon", PaintPolygonPicture},      {"sector", PaintSectorPicture},
+    {"section", PaintSectionPicture},
+    {"summary", PaintSummaryPicture},
+    {"tube-panel", PaintTubePanelPicture},
+    {"mirror-panel", PaintMirrorPanelPicture},
+    {"field", PaintFieldPicture},
+    {"ronchi", PaintRonchiPicture},
+    {"polygon", PaintPolygonPicture},
+    {"sector", PaintSectorPicture},
+    {"illumination", PaintIlluminationPicture},
+    {"secondary-choice", PaintSecondaryChoicePicture},
 };
 
 // Forms of files -----------------------------------------------------------------------------------------

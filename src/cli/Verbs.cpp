@@ -40,7 +40,9 @@ std::vector<const ReportPage*> PagesOf(const CommandLine& words)
     }
     if (pages.empty()) {
         for (const ReportPage& page : ReportPages()) {
-            pages.push_back(&page);
+            if (!page.only_when_named) {
+                pages.push_back(&page);
+            }
         }
     }
     return pages;

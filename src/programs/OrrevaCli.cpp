@@ -35,12 +35,12 @@ TELESCOPE is a design FILE, or the telescope of the quick New dialog with any of
 --focal-length MM and --title TEXT; then --set KEY=VALUE, any number of times (VALUE unset: not set).
 
 PAGE is summary, primary, secondary, tube, focuser, cell, eyepieces, balance, foucault, ronchi, star, marks or
-field; all of them without --page. For foucault: --zones N, --centre PERCENT, --edge MM,
+field, all of them without --page; or illumination. For foucault: --zones N, --centre PERCENT, --edge MM,
 --template couder|everest, --method carlin|couder|texereau, --source moving|fixed.
 
 PICTURE is section (--mode, --pointer, --zoom 1..5, --scroll X,Y, --extended, --no-offset, --box-and-cage),
-summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM) or
-sector (--type I --diameter MM --value V).
+summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM),
+sector (--type I --diameter MM --value V), illumination or secondary-choice.
 
 values prints every number of the design, or each NAME, with its unit; check tells what is wrong with it, and
 compare what differs between two. sweep prints a table of designs: one to four --vary, the first running slowest.

@@ -75,6 +75,9 @@ constexpr MenuRow kMenuTexts[] = {
     {57609, "Print Preview", "Sei&tenansicht"},
     {57606, "Print Setup", "Drucker&einrichtung..."},
     {57616, "Letzte Datei", "Letzte Datei"},
+    {33003, "Earlier designs...", "Frühere Entwürfe..."},
+    {33001, "Undo\tCtrl+Z", "Rückgängig\tStrg+Z"},
+    {33002, "Redo\tCtrl+Y", "Wiederholen\tStrg+Y"},
     {32772, "Properties\tStrg+E", "Eigenschaften\tStrg+E"},
     {32792, "Properties (Tube)", "Eigenschaften Tubus"},
     {32781, "Maximal size of mirror center markers",
@@ -99,6 +102,9 @@ constexpr MenuRow kMenuTexts[] = {
     {32777, "Inch/mm Calculator", "Zoll Rechner"},
     {32788, "Polygon Calculator", "Mehreck Rechner"},
     {32791, "Sector Calculator", "Kreisausschnitt Rechner"},
+    {33021, "Design check\tF8", "Entwurf prüfen\tF8"},
+    {33022, "Compare designs...", "Entwürfe vergleichen..."},
+    {33023, "Variation...", "Variation..."},
     {32790, "Orreva Support Forum", "Orreva Diskussionsforum"},
     {32810, "Orreva Wiki-Handbook", "Orreva Wiki-Handbook"},
 };
@@ -350,14 +356,15 @@ TEST_F(MainFrame, RaytracingSettingsOpenOnThePresentButtonAndToggle)
     }
 }
 
-TEST_F(MainFrame, SaveOpensNoDialogAndCtrlSSavesNothing)
+TEST_F(MainFrame, SaveOpensNoDialogAndCtrlSDoesTheSame)
 {
     MakeTelescope();
-    QTest::keyClick(&app->Frame(), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_TRUE(folder.Read("noname.orreva.xml").empty());
     Choose(32803);
     EXPECT_FALSE(folder.Read("noname.orreva.xml").empty());
     EXPECT_EQ(0, app->Document().main_record.IsModified());
+    std::filesystem::remove("noname.orreva.xml");
+    QTest::keyClick(&app->Frame(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(folder.Read("noname.orreva.xml").empty());
 }
 
 TEST_F(MainFrame, ClosingAsksWithoutCancelAndClosesEitherWay)
@@ -575,15 +582,37 @@ TEST_F(MainFrame, WhatIfBarTriesAParameter)
     EXPECT_EQ(1500, slider->value());
 }
 
-TEST_F(MainFrame, SliderWritesOnItsRepaintToo)
+TEST_F(MainFrame, ARepaintOfTheSliderWritesNothing)
 {
     MakeTelescope();
     auto* const slider = FindControl<QSlider>(&app->Frame(), 1023);
     ChooseParameter(2);
     slider->repaint();
-    EXPECT_EQ(46.0, app->Document().main_record.GetSecondaryDiameter());
+    EXPECT_EQ(46.482, app->Document().main_record.GetSecondaryDiameter());
+    slider->setValue(60);
+    slider->repaint();
+    EXPECT_EQ(60.0, app->Document().main_record.GetSecondaryDiameter());
     Click(app->Frame(), 1025);
-    EXPECT_DOUBLE_EQ(46.482, app->Document().bar_params[2].value);
+    slider->repaint();
+    EXPECT_EQ(46.482, app->Document().main_record.GetSecondaryDiameter());
+}
+
+TEST_F(MainFrame, EscapeOrDeleteInTheListEndsTheTrial)
+{
+    MakeTelescope();
+    auto* const list = FindControl<QComboBox>(&app->Frame(), 1026);
+    auto* const slider = FindControl<QSlider>(&app->Frame(), 1023);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Delete}) {
+        ChooseParameter(0);
+        slider->setValue(2000);
+        slider->repaint();
+        QTest::keyClick(list, key);
+        EXPECT_EQ(1500.0, app->Document().main_record.GetFocalLength());
+        EXPECT_EQ(-1, list->currentIndex());
+        EXPECT_EQ(slider->minimum(), slider->maximum()) << "it shows none";
+        slider->repaint();
+        EXPECT_EQ(1500.0, app->Document().main_record.GetFocalLength());
+    }
 }
 
 TEST_F(MainFrame, AParameterChosenBeforeTheTelescopeIsTriedWhenItIsChosenAgain)
@@ -616,7 +645,8 @@ TEST_F(MainFrame, ATrialDoesNotReachTheRecordWhileQuickNewIsOpen)
     EXPECT_EQ(900.0, app->Document().main_record.GetFocalLength());
     EXPECT_DOUBLE_EQ(150.0, app->Document().main_record.GetInsideDiameterHat()) << "114 + 36, not 250 + 36";
     slider->repaint();
-    EXPECT_EQ(1500.0, app->Document().main_record.GetFocalLength()) << "the trial goes on";
+    EXPECT_EQ(900.0, app->Document().main_record.GetFocalLength()) << "the trial ended with its telescope";
+    EXPECT_EQ(-1, FindControl<QComboBox>(&app->Frame(), 1026)->currentIndex());
 }
 
 TEST_F(MainFrameGerman, WhatIfBarButtonsAreGermanAndItsListToo)
