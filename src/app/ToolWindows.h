@@ -5,6 +5,7 @@
 class CDesignCheckField;
 class CCompareWindow;
 class CDesignCheckWindow;
+class CIlluminationWindow;
 class CMainFrame;
 class CMyDialogBar;
 class COrrevaDoc;
@@ -23,6 +24,7 @@ public:
     /// Asks for the file of the other design; nothing for Cancel.
     void OpenCompare();
     void OpenVariation();
+    void OpenIllumination();
 
 private:
     /// Looks at a copy of the design: the record's first readings are its own.
@@ -30,6 +32,7 @@ private:
     void FollowCheck();
     void FollowCompare();
     void FollowVariation();
+    void FollowIllumination();
 
     CMainFrame& m_frame;
     CMyDialogBar& m_whatIfBar;
@@ -38,4 +41,5 @@ private:
     CDesignCheckWindow* m_checkWindow = nullptr;
     CCompareWindow* m_compareWindow = nullptr;
     CVariationWindow* m_variationWindow = nullptr;
+    CIlluminationWindow* m_illuminationWindow = nullptr;
 };
