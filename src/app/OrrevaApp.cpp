@@ -13,7 +13,6 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
-#include <QIcon>
 #include <QLocale>
 #include <QTimer>
 

@@ -42,19 +42,6 @@ int CProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
     return margin && IsOfResultList(widget) ? desktops + kColumnGap : desktops;
 }
 
-QIcon CProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
-                                  const QWidget* widget) const
-{
-    switch (icon) {
-    case SP_ToolBarHorizontalExtensionButton:
-        return ProgramIcon("more");
-    case SP_ToolBarVerticalExtensionButton:
-        return ProgramIcon("more-below");
-    default:
-        return QProxyStyle::standardIcon(icon, option, widget);
-    }
-}
-
 QSize CProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                       const QWidget* widget) const
 {
@@ -74,4 +61,17 @@ int CProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
         return QDialogButtonBox::WinLayout; // OK, Cancel, Apply
     }
     return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+QIcon CProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_ToolBarHorizontalExtensionButton:
+        return ProgramIcon("more");
+    case SP_ToolBarVerticalExtensionButton:
+        return ProgramIcon("more-below");
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
 }

@@ -3,8 +3,10 @@
 #include "app/FieldOpener.h"
 #include "app/MainFrame.h"
 #include "app/MyDialogBar.h"
+#include "document/EarlierDesigns.h"
 #include "document/FileMasks.h"
 #include "document/OrrevaDoc.h"
+#include "document/RescueCopies.h"
 #include "document/TelescopeFile.h"
 #include "document/XmlScanner.h"
 #include "lib/text/CodePage.h"
@@ -63,17 +65,43 @@ void CToolWindows::OpenCompare()
     }
     const XmlScanner file(path.c_str());
     if (!file.HasText() || !file.IsDesign()) {
-        const std::string shown = Cp1252FromUtf8(path);
-        m_document.Host().ShowMessage(FormatText(kNotRead.In(g_nLanguage), shown.c_str()).c_str());
+        TellNotRead(path);
         return;
     }
     COrrevaData other;
     ReadTelescope(file, other);
+    Compare(other, QFileInfo(QFile::decodeName(path.c_str())).fileName());
+}
+
+void CToolWindows::TellNotRead(const std::string& path)
+{
+    const std::string shown = Cp1252FromUtf8(path);
+    m_document.Host().ShowMessage(FormatText(kNotRead.In(g_nLanguage), shown.c_str()).c_str());
+}
+
+void CToolWindows::CompareEarlier()
+{
+    const std::vector<RescueCopy> copies = RescueCopies().List();
+    const auto chosen = m_document.Host().AskEarlierDesign(copies, std::nullopt);
+    if (!chosen || *chosen >= copies.size()) {
+        return;
+    }
+    COrrevaData other;
+    if (ReadEarlierDesign(copies[*chosen], other)) {
+        Compare(other, QString::fromStdString(copies[*chosen].time));
+    } else {
+        TellNotRead(copies[*chosen].file);
+    }
+}
+
+void CToolWindows::Compare(const TelescopeFields& other, const QString& name)
+{
     if (m_compareWindow == nullptr) {
         m_compareWindow = new CCompareWindow(&m_frame);
         connect(m_compareWindow, &CCompareWindow::FileWanted, this, &CToolWindows::OpenCompare);
+        connect(m_compareWindow, &CCompareWindow::EarlierWanted, this, &CToolWindows::CompareEarlier);
     }
-    m_compareWindow->ShowOther(other, QFileInfo(QFile::decodeName(path.c_str())).fileName());
+    m_compareWindow->ShowOther(other, name);
     BringUp(*m_compareWindow);
     FollowCompare();
 }

@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+#include <string>
+
 class CDesignCheckField;
 class CCompareWindow;
 class CDesignCheckWindow;
@@ -9,6 +11,7 @@ class CIlluminationWindow;
 class CMainFrame;
 class CMyDialogBar;
 class COrrevaDoc;
+struct TelescopeFields;
 class CVariationWindow;
 class QStatusBar;
 
@@ -23,12 +26,16 @@ public:
     void OpenDesignCheck();
     /// Asks for the file of the other design; nothing for Cancel.
     void OpenCompare();
+    /// The same with one of the copies that were kept of earlier designs.
+    void CompareEarlier();
     void OpenVariation();
     void OpenIllumination();
 
 private:
     /// Looks at a copy of the design: the record's first readings are its own.
     void Follow();
+    void TellNotRead(const std::string& path);
+    void Compare(const TelescopeFields& other, const QString& name);
     void FollowCheck();
     void FollowCompare();
     void FollowVariation();

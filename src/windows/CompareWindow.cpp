@@ -21,6 +21,7 @@ namespace {
 
 constexpr Bilingual kTitle{"Compare designs", "Entwürfe vergleichen"_cp1252};
 constexpr Bilingual kAll{"Show all values", "Alle Werte zeigen"};
+constexpr Bilingual kEarlier{"Earlier design...", "Früherer Entwurf..."_cp1252};
 constexpr Bilingual kFile{"Other file...", "Andere Datei..."};
 constexpr ListColumn kColumns[] = {
     {{"Value", "Wert"}, 300},
@@ -63,12 +64,17 @@ CCompareWindow::CCompareWindow(QWidget* parent)
     auto* const file = new QPushButton(Shown(kFile), this);
     file->setObjectName("otherFile");
     file->setAutoDefault(false);
+    auto* const earlier = new QPushButton(Shown(kEarlier), this);
+    earlier->setObjectName("earlierDesign");
+    earlier->setAutoDefault(false);
     connect(m_all, &QCheckBox::toggled, this, &CCompareWindow::Refresh);
     connect(file, &QPushButton::clicked, this, &CCompareWindow::FileWanted);
+    connect(earlier, &QPushButton::clicked, this, &CCompareWindow::EarlierWanted);
 
     auto* const buttons = new QHBoxLayout;
     buttons->addWidget(m_all);
     buttons->addStretch();
+    buttons->addWidget(earlier);
     buttons->addWidget(file);
     auto* const column = new QVBoxLayout(this);
     column->addWidget(m_names);

@@ -29,6 +29,8 @@ public:
 signals:
     /// The user wants another file.
     void FileWanted();
+    /// The user wants one of the copies that were kept of earlier designs.
+    void EarlierWanted();
 
 private:
     void Refresh();

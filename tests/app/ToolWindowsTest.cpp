@@ -6,6 +6,7 @@
 #include "windows/DesignCheckField.h"
 #include "windows/DesignCheckWindow.h"
 #include "windows/IlluminationWindow.h"
+#include "windows/VariationWindow.h"
 
 #include <QFileDialog>
 #include <QLabel>
@@ -161,6 +162,22 @@ TEST_F(ToolWindows, CompareTellsOfAFileThatItCannotRead)
     });
     Choose(33022);
     EXPECT_EQ(nullptr, Find<CCompareWindow>());
+}
+
+TEST_F(ToolWindows, AClickOnACurveTriesOneOfTheSevenParameters)
+{
+    MakeTelescope();
+    Choose(33023);
+    auto* const window = Find<CVariationWindow>();
+    ASSERT_NE(nullptr, window);
+    emit window->TrialWanted(FindRecordField("secondary/diameter"), 60.2);
+    EXPECT_EQ(60, Record().GetSecondaryDiameter()) << "the bar takes whole millimetres";
+    EXPECT_EQ(1, app->Document().bar_params[2].selected);
+    emit window->TrialWanted(FindRecordField("tube/distance_front"), 60);
+    EXPECT_EQ(125, Record().GetDistanceFront()) << "none of the bar's";
+    EXPECT_EQ(1, app->Document().bar_params[2].selected);
+    Click(app->Frame(), 1025);
+    EXPECT_DOUBLE_EQ(46.482, Record().GetSecondaryDiameter());
 }
 
 TEST_F(ToolWindows, QuickNewTellsWhatItUnderstands)

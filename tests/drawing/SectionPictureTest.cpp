@@ -323,4 +323,21 @@ TEST_F(SectionPicture, EndsForEveryNumberInTheRecord)
     }
 }
 
+TEST_F(SectionPicture, AtAScaleOfTheCallersIsTheSamePicture)
+{
+    RecordingSurface atOne(1077, 1000);
+    PaintSectionAtScale(atOne, record, 1);
+    EXPECT_EQ(Paint().calls, atOne.calls) << "the window has room for a pixel a millimetre";
+
+    // Half the size, in the middle: x / 2 + (1077 - 533.5) / 2, y / 2 + (1000 - 175) / 4.
+    RecordingSurface half(1077, 1000);
+    PaintSectionAtScale(half, record, 0.5);
+    const auto* const tube = std::get_if<drawn::FillRect>(&half.calls.at(1));
+    ASSERT_NE(nullptr, tube);
+    EXPECT_EQ(320, tube->rect.left); // 97 / 2 + 271.75
+    for (const double odd : {0.0, -1.0, 1e300, static_cast<double>(HUGE_VAL), std::nan("")}) {
+        PaintSectionAtScale(half, record, odd);
+    }
+}
+
 } // namespace
