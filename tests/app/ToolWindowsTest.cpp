@@ -171,7 +171,7 @@ TEST_F(ToolWindows, AClickOnACurveTriesOneOfTheSevenParameters)
     auto* const window = Find<CVariationWindow>();
     ASSERT_NE(nullptr, window);
     emit window->TrialWanted(FindRecordField("secondary/diameter"), 60.2);
-    EXPECT_EQ(60, Record().GetSecondaryDiameter()) << "the bar takes whole millimetres";
+    EXPECT_EQ(60.2, Record().GetSecondaryDiameter()) << "to the last digit";
     EXPECT_EQ(1, app->Document().bar_params[2].selected);
     emit window->TrialWanted(FindRecordField("tube/distance_front"), 60);
     EXPECT_EQ(125, Record().GetDistanceFront()) << "none of the bar's";
