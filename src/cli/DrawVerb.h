@@ -3,6 +3,7 @@
 #include "cli/ViewOptions.h"
 #include "drawing/Surface.h"
 #include "model/analysis/Summary.h"
+#include "painting/PictureFile.h"
 
 #include <span>
 #include <string>
@@ -44,8 +45,6 @@ std::span<const NamedPicture> Pictures();
 /// Null if there is none of that name.
 const NamedPicture* FindPicture(std::string_view name);
 
-/// Whether `path` ends in a form that can be written: .png, .svg or .pdf.
-bool IsPictureFile(std::string_view path);
 /// Whether a picture may have this size: 1 to 16384 pixels on each side.
 bool IsPictureSize(Pixel size);
 

@@ -105,6 +105,7 @@ constexpr MenuRow kMenuTexts[] = {
     {33021, "Design check\tF8", "Entwurf prüfen\tF8"},
     {33022, "Compare designs...", "Entwürfe vergleichen..."},
     {33023, "Variation...", "Variation..."},
+    {33041, "Illumination...", "Ausleuchtung..."},
     {32790, "Orreva Support Forum", "Orreva Diskussionsforum"},
     {32810, "Orreva Wiki-Handbook", "Orreva Wiki-Handbook"},
 };
