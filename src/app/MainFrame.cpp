@@ -12,6 +12,7 @@
 #include "painting/QtText.h"
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
+#include "views/ProgramIcon.h"
 
 #include "ui_MainFrame.h"
 
@@ -26,6 +27,7 @@
 namespace {
 
 constexpr const char* kCommandId = "commandId";
+constexpr const char* kIconName = "iconName";
 constexpr int kPaneWidth = 260;
 
 // The view styles of a list view, which this program has none of: they are shown and do nothing.
@@ -117,6 +119,10 @@ void CMainFrame::CreatePanes()
 void CMainFrame::BindActions()
 {
     for (QAction* const action : findChildren<QAction*>()) {
+        const QString icon = action->property(kIconName).toString();
+        if (!icon.isEmpty()) {
+            action->setIcon(ProgramIcon(icon));
+        }
         const int id = action->property(kCommandId).toInt();
         if (id != 0) {
             connect(action, &QAction::triggered, this, [this, id] { OnCommand(id); });

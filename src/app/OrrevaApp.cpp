@@ -8,11 +8,11 @@
 #include "lib/text/Log.h"
 #include "pages/sheet/Help.h"
 #include "painting/QtText.h"
+#include "views/ProgramIcon.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
-#include <QIcon>
 #include <QLocale>
 #include <QTimer>
 
@@ -37,7 +37,7 @@ void OpenHelp(long data, unsigned command)
 
 COrrevaApp::COrrevaApp()
 {
-    QApplication::setWindowIcon(QIcon(":/icons/orreva.svg")); // of every window, the first message's too
+    QApplication::setWindowIcon(ProgramIcon("orreva")); // of every window, the first message's too
     SetAssertDesktop(&m_host);
     SetHelpHandler(OpenHelp);
 }

@@ -1,6 +1,7 @@
 #include "app/ProgramStyle.h"
 
 #include "pages/sheet/PropertySheet.h"
+#include "views/ProgramIcon.h"
 #include "views/ResultList.h"
 
 #include <QHeaderView>
@@ -60,4 +61,17 @@ int CProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
         return QDialogButtonBox::WinLayout; // OK, Cancel, Apply
     }
     return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+QIcon CProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_ToolBarHorizontalExtensionButton:
+        return ProgramIcon("more");
+    case SP_ToolBarVerticalExtensionButton:
+        return ProgramIcon("more-below");
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
 }

@@ -6,6 +6,7 @@
 #include "lib/text/Numbers.h"
 #include "painting/QtText.h"
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QLineF>
@@ -72,6 +73,14 @@ AngleSpan AngleSpanOf(const QRectF& box, Pixel from, Pixel to)
 std::int32_t PixelSize(std::int32_t lineHeight)
 {
     return std::max(TruncToInt32(std::round(std::min(lineHeight, 1000) * kEm / kLine)), 1);
+}
+
+/// Arial, or its metric twin. The one that is there is named first: a search for a substitute costs a good
+/// part of the start.
+QStringList Families()
+{
+    static const bool hasArial = QFontDatabase::hasFamily("Arial");
+    return hasArial ? QStringList{"Arial"} : QStringList{"Liberation Sans", "Arial"};
 }
 
 } // namespace
@@ -200,7 +209,7 @@ const QFont& PainterSurface::DeviceFont(const Font& font)
 {
     if (font != m_lastFont) {
         m_lastFont = font;
-        m_deviceFont = QFont(QStringList{"Arial", "Liberation Sans"});
+        m_deviceFont = QFont(Families());
         m_deviceFont.setPixelSize(PixelSize(font.height));
         // The code page needs no glyph of another font, and looking for one costs a good part of the start.
         m_deviceFont.setStyleStrategy(QFont::NoFontMerging);

@@ -4,6 +4,7 @@
 
 #include "document/Commands.h"
 #include "document/OrrevaDoc.h"
+#include "views/ProgramIcon.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -60,7 +61,7 @@ TEST(WindowsBefore, AMessageBeforeTheMainWindowHasTheIcon)
         ASSERT_NE(nullptr, box);
         seen = true;
         EXPECT_EQ(nullptr, box->parentWidget());
-        EXPECT_EQ(QIcon(":/icons/orreva.svg").pixmap(32).toImage(),
+        EXPECT_EQ(ProgramIcon("orreva").pixmap(32).toImage(),
                   box->windowHandle()->icon().pixmap(32).toImage());
         box->accept();
     });
@@ -70,8 +71,7 @@ TEST(WindowsBefore, AMessageBeforeTheMainWindowHasTheIcon)
 
 TEST_F(Windows, TheMainWindowHasTheIcon)
 {
-    EXPECT_EQ(QIcon(":/icons/orreva.svg").pixmap(32).toImage(),
-              app->Frame().windowIcon().pixmap(32).toImage());
+    EXPECT_EQ(ProgramIcon("orreva").pixmap(32).toImage(), app->Frame().windowIcon().pixmap(32).toImage());
 }
 
 TEST_F(Windows, AnyNameOfAFileStandsInTheCaption)
