@@ -7,6 +7,8 @@
 #include "Version.h"
 
 #include <csignal>
+#include <cstdlib>
+#include <exception>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -66,6 +68,21 @@ int Run(int argc, char** argv)
     return RunVerb(words);
 }
 
+constexpr const char* kNoMemory = "not enough memory";
+
+/// What the memory cannot hold is one line, on whichever thread it is found. Anything else that nobody caught
+/// is a fault of the program.
+void OnUncaught()
+{
+    try {
+        std::rethrow_exception(std::current_exception());
+    } catch (const std::bad_alloc&) {
+        std::_Exit(Fail(kNoMemory));
+    } catch (...) {
+        std::abort();
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -73,11 +90,12 @@ int main(int argc, char** argv)
     std::signal(SIGPIPE, SIG_IGN); // a reader that has seen enough ends the output as a failed write,
     std::signal(SIGXFSZ, SIG_IGN); // and so does a file that may not grow
     SetLogSink(nullptr);           // standard error is for the user, in a debug build too
+    std::set_terminate(OnUncaught);
     try {
         return Run(argc, argv);
     } catch (const std::bad_alloc&) {
-        return Fail("not enough memory");
+        return Fail(kNoMemory);
     } catch (const std::length_error&) {
-        return Fail("not enough memory"); // what no memory could hold
+        return Fail(kNoMemory); // nor could any other
     }
 }
