@@ -186,7 +186,7 @@ void TakeSeriesHead(ReadingSeries& series, std::string_view line)
 {
     std::string_view value;
     if (HasKey(line, kDateKey, value)) {
-        series.date = BookValue(value);
+        series.date = TrimmedValue(BookValue(value));
     } else if (HasKey(line, kSourceKey, value)) {
         series.light_source = NumberOf(kSourceWords, value);
     } else if (HasKey(line, kMaskKey, value)) {
@@ -252,7 +252,7 @@ bool TakeSection(std::string_view text, ReadingSeries& series)
     while (!text.empty()) {
         const std::string_view line = TakeBookLine(text);
         if (HasKey(line, kSeriesKey, value)) {
-            series.name = BookValue(value);
+            series.name = TrimmedValue(BookValue(value));
         } else if (!IsBookDataLine(line)) {
             TakeSeriesHead(series, line);
         } else if (!AddZoneLine(series, line)) {

@@ -231,6 +231,17 @@ TEST(ReadingBook, IsReadAsASpreadsheetSavesItAgain)
               book->series[0].zones);
 }
 
+TEST(ReadingBook, ControlCharactersComeInAsBlanks)
+{
+    const auto book = ParseBook("# Orreva: readings of the knife edge\n# series: \x12 A\x01"
+                                "B\n\x02 30,\x03"
+                                "1\n");
+    ASSERT_TRUE(book);
+    ASSERT_EQ(1u, book->series.size());
+    EXPECT_EQ("A B", book->series[0].name);
+    EXPECT_EQ((SeriesZone{"30", {" 1"}}), book->series[0].zones[0]);
+}
+
 TEST(ReadingBook, ADamagedOneIsNone)
 {
     ReadingBook book;
