@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::uint32_t kTelescopeVerbs = kReport | kRays | kDraw | kSaveVerb | kExport;
 constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc;
+constexpr std::uint32_t kTableVerbs = kReport; ///< those that print tables in several forms
 
 struct VerbName {
     std::string_view name;
@@ -34,6 +35,7 @@ constexpr Option kOptions[] = {
     {"--version", false, kAllVerbs},
     {"--language", true, kAllVerbs},
     {"-o", true, kAllVerbs},
+    {"--format", true, kTableVerbs},
     {"--diameter", true, kTelescopeVerbs},
     {"--focal-length", true, kTelescopeVerbs},
     {"--title", true, kTelescopeVerbs},

@@ -6,7 +6,7 @@
 #include "cli/ExchangeVerbs.h"
 #include "cli/Output.h"
 #include "cli/RaysVerb.h"
-#include "cli/Telescope.h"
+#include "cli/VerbTools.h"
 #include "cli/report/Report.h"
 #include "document/TelescopeFile.h"
 #include "drawing/SectionZoom.h"
@@ -14,30 +14,10 @@
 #include "lib/text/Numbers.h"
 
 #include <limits>
-#include <memory>
 
 namespace {
 
 using Limits = std::numeric_limits<std::int32_t>;
-
-std::string OutputPath(const CommandLine& words) { return words.Value("-o").value_or(""); }
-
-/// A document on the terminal.
-struct TerminalDocument {
-    TerminalHost host;
-    COrrevaDoc document{host};
-
-    TerminalDocument() { g_pCurrentDocument = &document; }
-};
-
-/// The file among the plain words from `first` on, if there is one; a second one is a word too many.
-std::optional<std::string> FileWord(const CommandLine& words, std::size_t first)
-{
-    if (words.plain.size() > first + 1) {
-        UsageError("too many words:", words.plain[first + 1]);
-    }
-    return words.plain.size() > first ? std::optional(words.plain[first]) : std::nullopt;
-}
 
 // Each verb understands all of its words before it reads or writes anything.
 // ---------------------------------
@@ -85,6 +65,7 @@ int Report(const CommandLine& words)
 {
     const std::vector<const ReportPage*> pages = PagesOf(words);
     const ZoneOptions zones = ZonesOf(words);
+    const TableFormat format = FormatOf(words);
     const auto file = FileWord(words, 0);
     TerminalDocument terminal;
     if (!MakeTelescope(words, file, terminal.host, terminal.document)) {
@@ -93,6 +74,10 @@ int Report(const CommandLine& words)
     ReportContext context = ContextOf(terminal);
     context.details = words.Has("--details");
     context.zones = zones;
+    if (format != TableFormat::kText) {
+        return WriteOutput(OutputPath(words),
+                           (format == TableFormat::kCsv ? CsvReport : JsonReport)(pages, context));
+    }
     Output output(OutputPath(words));
     WriteReport(pages, context,
                 [&](const std::string& line) { return output.Write(Utf8FromCp1252(line) + '\n'); });

@@ -10,6 +10,7 @@
 #include "lib/text/CodePage.h"
 #include "lib/text/Log.h"
 #include "lib/text/Numbers.h"
+#include "model/analysis/Recalculation.h"
 #include "model/optics/CentreMarks.h"
 
 #include <filesystem>
@@ -59,27 +60,12 @@ void COrrevaDoc::SetDocumentTitle(const char* path)
 
 void COrrevaDoc::Recalculate()
 {
-    COrrevaData& data = *active_record;
-    {
-        // On a fresh record the first read of z is infinite, and with it this angle a NaN.
-        const double z = data.GetFocalPlaneHeight();
-        const double m = data.GetSecondaryDiameter();
-        const double f = data.GetFocalLength();
-        const double D = data.GetMirrorDiameter();
-        field_angle_100 = FullFieldAngle(D, f, m, z);
-    }
-    {
-        const double z = data.GetFocalPlaneHeight();
-        const double m = data.GetSecondaryDiameter();
-        const double f = data.GetFocalLength();
-        const double D = data.GetMirrorDiameter();
-        field_diameter_100 = FullFieldDiameter(D, f, m, z);
-    }
-    mirror_back_position = data.GetDistanceBack();
-    mirror_front_position = data.GetMirrorThickness() + mirror_back_position;
-    // The menus ask for the kind of tube at every refresh, so that it never stays unset.
-    data.GetTubeType();
-    data.SetModified(1);
+    const Recalculation result = ::Recalculate(*active_record);
+    field_angle_100 = result.field.angle;
+    field_diameter_100 = result.field.diameter;
+    mirror_back_position = result.mirror_back_position;
+    mirror_front_position = result.mirror_front_position;
+    active_record->SetModified(1);
     UpdateAllViews();
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a window
 
-  orreva-cli report [TELESCOPE] [--page PAGE]... [--details]
+  orreva-cli report [TELESCOPE] [--page PAGE]... [--details] [--format text|csv|json]
   orreva-cli rays   [TELESCOPE] --mode parallel|focal|pointer --pointer X,Y [--hide-lost] [--no-offset]
   orreva-cli draw   [TELESCOPE] --picture PICTURE --size WxH -o OUT.png|.svg|.pdf
   orreva-cli save   [TELESCOPE] [-o FILE]

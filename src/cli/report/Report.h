@@ -86,3 +86,11 @@ ReportLines RonchiReport(const ReportContext& context);
 ReportLines StarReport(const ReportContext& context);
 ReportLines MarksReport(const ReportContext& context);
 ReportLines FieldReport(const ReportContext& context);
+
+// The report in other forms -------------------------------------------------------------------------------
+
+/// The pages as one csv table `page,cell1,cell2,...`, as wide as the widest row; UTF-8.
+std::string CsvReport(std::span<const ReportPage* const> pages, const ReportContext& context);
+
+/// The pages as a JSON array of {"page", "rows"}, a row being the array of its cells; UTF-8.
+std::string JsonReport(std::span<const ReportPage* const> pages, const ReportContext& context);

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "cli/CommandLine.h"
+#include "cli/Telescope.h"
+#include "lib/text/Table.h"
+
+#include <optional>
+#include <string>
+
+// What the verbs share. Each understands all of its words before it reads or writes anything. --------------
+
+/// A document on the terminal, and the current one.
+struct TerminalDocument {
+    TerminalHost host;
+    COrrevaDoc document{host};
+
+    TerminalDocument() { g_pCurrentDocument = &document; }
+};
+
+/// Where the words want the output; empty for standard output.
+std::string OutputPath(const CommandLine& words);
+
+/// The file among the plain words from `first` on, if there is one; a second one is a word too many.
+std::optional<std::string> FileWord(const CommandLine& words, std::size_t first);
+
+/// The form of a table that the words ask for.
+TableFormat FormatOf(const CommandLine& words);
