@@ -12,17 +12,18 @@
 
 namespace {
 
-constexpr std::uint32_t kTelescopeVerbs = kReport | kRays | kDraw | kSaveVerb | kExport;
+constexpr std::uint32_t kTelescopeVerbs = kReport | kRays | kDraw | kSaveVerb | kExport | kFigureVerb;
 constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc;
-constexpr std::uint32_t kTableVerbs = kReport; ///< those that print tables in several forms
+constexpr std::uint32_t kTableVerbs = kReport | kFigureVerb; ///< those that print tables in several forms
 
 struct VerbName {
     std::string_view name;
     Verb verb;
 };
 
-constexpr VerbName kVerbs[] = {{"report", kReport}, {"rays", kRays},     {"draw", kDraw}, {"save", kSaveVerb},
-                               {"import", kImport}, {"export", kExport}, {"calc", kCalc}};
+constexpr VerbName kVerbs[] = {{"report", kReport}, {"rays", kRays},        {"draw", kDraw},
+                               {"save", kSaveVerb}, {"import", kImport},    {"export", kExport},
+                               {"calc", kCalc},     {"figure", kFigureVerb}};
 
 struct Option {
     std::string_view name;
@@ -47,7 +48,10 @@ constexpr Option kOptions[] = {
     {"--edge", true, kReport},
     {"--template", true, kReport},
     {"--method", true, kReport},
-    {"--source", true, kReport},
+    {"--source", true, kReport | kFigureVerb | kDraw},
+    {"--readings", true, kFigureVerb | kDraw},
+    {"--conic", true, kFigureVerb | kDraw},
+    {"--wavelength", true, kFigureVerb | kDraw},
     {"--mode", true, kRays | kDraw},
     {"--pointer", true, kRays | kDraw},
     {"--hide-lost", false, kRays},

@@ -16,6 +16,7 @@ enum Verb : std::uint32_t {
     kImport = 16,
     kExport = 32,
     kCalc = 64,
+    kFigureVerb = 256,
 };
 
 /// The command line, taken apart: the verb, the words that are no options, and the options in their order.

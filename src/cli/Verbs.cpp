@@ -4,6 +4,7 @@
 #include "cli/CommandLine.h"
 #include "cli/DrawVerb.h"
 #include "cli/ExchangeVerbs.h"
+#include "cli/FigureVerb.h"
 #include "cli/Output.h"
 #include "cli/RaysVerb.h"
 #include "cli/VerbTools.h"
@@ -140,7 +141,8 @@ constexpr PictureOption kPictureOptions[] = {
     {"--mode", "section"},         {"--pointer", "section"},  {"--zoom", "section"},
     {"--scroll", "section"},       {"--extended", "section"}, {"--no-offset", "section"},
     {"--box-and-cage", "section"}, {"--seed", "ronchi"},      {"--type", "polygon", "sector"},
-    {"--thickness", "polygon"},    {"--value", "sector"},
+    {"--thickness", "polygon"},    {"--value", "sector"},     {"--readings", "wavefront"},
+    {"--source", "wavefront"},     {"--conic", "wavefront"},  {"--wavelength", "wavefront"},
 };
 
 void RefuseOptionsOfOthers(const CommandLine& words, std::string_view picture)
@@ -266,7 +268,7 @@ struct Entry {
 };
 
 constexpr Entry kEntries[] = {{kReport, Report}, {kRays, Rays},     {kDraw, Draw}, {kSaveVerb, Save},
-                              {kImport, Import}, {kExport, Export}, {kCalc, Calc}};
+                              {kImport, Import}, {kExport, Export}, {kCalc, Calc}, {kFigureVerb, FigureVerb}};
 
 } // namespace
 

@@ -21,6 +21,8 @@ constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a wind
   orreva-cli import OLD [-o FILE]
   orreva-cli export oslo|fta [TELESCOPE] [-o OUT]
   orreva-cli calc   [EXPRESSION]...
+  orreva-cli figure [TELESCOPE] --readings FILE [--source moving|fixed] [--conic K] [--wavelength NM]
+                    [--format text|csv|json]
 
 TELESCOPE is a design FILE, or the telescope of the quick New dialog with any of --diameter MM,
 --focal-length MM and --title TEXT; then --set KEY=VALUE, any number of times (VALUE unset: not set).

@@ -186,7 +186,7 @@ std::optional<Figure> ReduceFigure(double D, double f, std::span<const ZoneMean>
     std::vector<FigureCorner> knife;
     for (const ZoneMean& zone : zones) {
         const double u = zone.radius * zone.radius;
-        const double ideal = -settings.conic * u * g / (2 * R);
+        const double ideal = -settings.conic * u * g / (2 * R) + 0.0; // no -0
         figure.zones.push_back({zone.radius, zone.reading, ideal, 0, 0});
         raw.push_back({u, (zone.reading - ideal) / g});
         knife.push_back({u, zone.reading / g});
@@ -213,7 +213,7 @@ std::optional<Figure> ReduceFigure(double D, double f, std::span<const ZoneMean>
     // The exact pi: no table out there rests on this figure.
     const double phase = 2 * std::numbers::pi * figure.rms / settings.wavelength;
     figure.strehl = std::exp(-phase * phase);
-    figure.conic = -2 * R * LeastSquaresSlope(knife);
+    figure.conic = -2 * R * LeastSquaresSlope(knife) + 0.0;
     return figure;
 }
 

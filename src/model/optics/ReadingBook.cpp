@@ -3,10 +3,10 @@
 #include "model/optics/ReadingSeries.h"
 
 #include "lib/text/CodePage.h"
+#include "lib/text/ShortestNumber.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <utility>
 
 namespace {
@@ -35,12 +35,6 @@ template <std::size_t N>
 std::int32_t NumberOf(const std::array<const char*, N>& words, std::string_view word)
 {
     return word == words[1] ? 1 : 0;
-}
-
-std::string ShortestText(double value)
-{
-    char text[32];
-    return {text, std::to_chars(text, text + sizeof text, value).ptr};
 }
 
 /// A cell as csv takes it.
@@ -302,8 +296,14 @@ std::string SeriesText(const ReadingSeries& series)
 std::string BookText(const ReadingBook& book)
 {
     std::string text(kSignature);
-    text += '\n' + std::string(kConicKey) + ' ' + ShortestText(book.conic) + '\n' +
-            std::string(kWavelengthKey) + ' ' + ShortestText(book.wavelength) + '\n';
+    const auto number = [&text](std::string_view key, double value) {
+        text += std::string(key) + ' ';
+        AppendNumber(text, value);
+        text += '\n';
+    };
+    text += '\n';
+    number(kConicKey, book.conic);
+    number(kWavelengthKey, book.wavelength);
     for (const ReadingSeries& series : book.series) {
         text += SeriesText(series);
     }
