@@ -8,6 +8,7 @@
 #include "drawing/SectorPicture.h"
 #include "drawing/SummaryPicture.h"
 #include "drawing/TubePanelPicture.h"
+#include "drawing/WavefrontCharts.h"
 #include "lib/files/FileBytes.h"
 #include "lib/text/Numbers.h"
 #include "painting/PainterSurface.h"
@@ -79,11 +80,21 @@ void PaintSectorPicture(Surface& surface, const DrawContext& context)
     PaintSector(surface, {options.diameter, options.value, options.type}, context.language);
 }
 
+void PaintWavefrontPicture(Surface& surface, const DrawContext& context)
+{
+    const WavefrontCurve curve{context.figure, {}};
+    const std::span curves(&curve, context.figure != nullptr ? 1 : 0);
+    const double D = context.record.GetMirrorDiameter();
+    const double wavelength = context.options.figure.wavelength;
+    PaintChart(surface, WavefrontChart(curves, D, wavelength, context.language), kLightChart);
+}
+
 constexpr NamedPicture kPictures[] = {
     {"section", PaintSectionPicture},      {"summary", PaintSummaryPicture},
     {"tube-panel", PaintTubePanelPicture}, {"mirror-panel", PaintMirrorPanelPicture},
     {"field", PaintFieldPicture},          {"ronchi", PaintRonchiPicture},
     {"polygon", PaintPolygonPicture},      {"sector", PaintSectorPicture},
+    {"wavefront", PaintWavefrontPicture},
 };
 
 // Forms of files -----------------------------------------------------------------------------------------

@@ -203,7 +203,12 @@ int Draw(const CommandLine& words)
         UsageError("unknown picture", name);
     }
     RefuseOptionsOfOthers(words, name);
-    const DrawOptions options = DrawOptionsOf(words, name);
+    DrawOptions options = DrawOptionsOf(words, name);
+    std::optional<FigureWords> figureWords;
+    if (name == "wavefront") {
+        figureWords = FigureWordsOf(words);
+        options.figure = figureWords->settings;
+    }
     const bool calculator = name == "polygon" || name == "sector";
     const std::string path = OutputPath(words);
     if (!IsPictureFile(path)) {
@@ -216,10 +221,18 @@ int Draw(const CommandLine& words)
         return kFailed;
     }
     const COrrevaDoc& document = terminal.document;
+    std::optional<Figure> figure;
+    if (figureWords) {
+        figure = ReadFigure(*figureWords, *document.active_record);
+        if (!figure) {
+            return kFailed;
+        }
+    }
     const DrawContext context{*document.active_record,
                               {document.field_diameter_100, document.field_angle_100},
                               g_nLanguage,
-                              options};
+                              options,
+                              figure ? &*figure : nullptr};
     return DrawPicture(*picture, context, path) == 0 ? kDone : Fail("cannot write " + path);
 }
 

@@ -32,8 +32,8 @@ field; all of them without --page. For foucault: --zones N, --centre PERCENT, --
 --template couder|everest, --method carlin|couder|texereau, --source moving|fixed.
 
 PICTURE is section (--mode, --pointer, --zoom 1..5, --scroll X,Y, --extended, --no-offset, --box-and-cage),
-summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM) or
-sector (--type I --diameter MM --value V).
+summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM),
+sector (--type I --diameter MM --value V) or wavefront (--readings FILE, --source, --conic, --wavelength).
 
 calc answers each expression, or each line of standard input, with one line.
 

@@ -109,6 +109,26 @@ TEST_F(FigureCommand, AFileOrMirrorThatIsMissingIsStatusOne)
     }
 }
 
+TEST_F(FigureCommand, ThePictureOfTheWavefrontTakesTheSameWords)
+{
+    Write("r.csv", "30,1\n60,1\n90,1\n");
+    const std::string draw = "draw --diameter 200 --focal-length 1200 --picture wavefront --size 600x400 ";
+    CliRun run = Cli(draw + "--readings r.csv -o w.svg");
+    EXPECT_EQ(0, run.status) << run.err;
+    const std::string sphere = folder.Read("w.svg");
+    EXPECT_NE(std::string::npos, sphere.find("Wavefront: PV 452.1 nm"));
+    EXPECT_EQ(0, Cli(draw + "--readings r.csv --source fixed --conic 0 --language de -o w.svg").status);
+    EXPECT_NE(std::string::npos, folder.Read("w.svg").find("Wellenfront: PV 0.0 nm"));
+    EXPECT_EQ("orreva-cli: the figure needs --readings\n", Cli(draw + "-o w.svg").err);
+    EXPECT_EQ(2, Cli("draw --picture field --size 600x400 -o w.svg --readings r.csv").status);
+    EXPECT_EQ(2, Cli(draw + "--readings r.csv --wavelength 0 -o w.svg").status);
+    Write("r.csv", "30,1\n60,1\n");
+    run = Cli(draw + "--readings r.csv -o bad.svg");
+    EXPECT_EQ(1, run.status);
+    EXPECT_EQ("orreva-cli: r.csv: line 2: fewer than 3 zones\n", run.err);
+    EXPECT_FALSE(std::filesystem::exists("bad.svg"));
+}
+
 TEST_F(FigureCommand, WordsThatAreNotUnderstoodAreStatusTwo)
 {
     Write("r.csv", "30,1\n60,1\n90,1\n");
