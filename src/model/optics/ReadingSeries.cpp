@@ -58,17 +58,21 @@ void TakeCalculatedZones(ReadingSeries& series, const ZoneFields& fields, double
 
 bool HasText(const std::string& cell) { return cell.find_first_not_of(' ') != std::string::npos; }
 
-/// What was typed as the cell keeps it: one line, no blanks around it, and a number with a point.
+/// What was typed in one line, without the blanks around it.
+std::string TypedLine(std::string_view text)
+{
+    std::string line(text);
+    std::ranges::replace_if(
+        line, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    const std::size_t first = line.find_first_not_of(' ');
+    return first == std::string::npos ? std::string()
+                                      : line.substr(first, line.find_last_not_of(' ') + 1 - first);
+}
+
+/// What was typed as the cell keeps it: a number with a point, any other text as it stands.
 std::string TypedCell(std::string_view text)
 {
-    std::string cell(text);
-    std::ranges::replace_if(
-        cell, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
-    const std::size_t first = cell.find_first_not_of(' ');
-    if (first == std::string::npos) {
-        return {};
-    }
-    cell = cell.substr(first, cell.find_last_not_of(' ') + 1 - first);
+    std::string cell = TypedLine(text);
     std::string number = cell;
     std::ranges::replace(number, ',', '.');
     return ReadingValue(number) ? number : cell;
@@ -142,6 +146,19 @@ ReadingSeries CopyOfSeries(const ReadingBook& book, const ReadingSeries& series)
     ReadingSeries copy = series;
     copy.name = FreeName(book, 2, [&](int n) { return series.name + " (" + std::to_string(n) + ")"; });
     return copy;
+}
+
+bool RenameSeries(ReadingBook& book, std::size_t index, std::string_view name)
+{
+    std::string line = TypedLine(name);
+    const auto holder = std::ranges::find(book.series, line, &ReadingSeries::name);
+    const bool free =
+        holder == book.series.end() || holder == book.series.begin() + static_cast<std::ptrdiff_t>(index);
+    if (line.empty() || !free || index >= book.series.size()) {
+        return false;
+    }
+    book.series[index].name = std::move(line);
+    return true;
 }
 
 std::string CellOf(const ReadingSeries& series, std::size_t zone, std::size_t column)

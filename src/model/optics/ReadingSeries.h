@@ -50,6 +50,10 @@ ReadingSeries NewSeries(const ReadingBook& book, const CouderMask* mask, const Z
 /// The series once more, under a name of its own.
 ReadingSeries CopyOfSeries(const ReadingBook& book, const ReadingSeries& series);
 
+/// Gives a series another name, in one line and without the blanks around it; false if the name is empty or
+/// another series has it.
+bool RenameSeries(ReadingBook& book, std::size_t index, std::string_view name);
+
 // Cells --------------------------------------------------------------------------------------------------
 
 /// Column 0 of the table is the radius, the runs follow.

@@ -77,6 +77,22 @@ TEST(ReadingSeries, NamesAreFree)
     EXPECT_EQ(original.zones, CopyOfSeries(book, original).zones);
 }
 
+TEST(ReadingSeries, ARenamedOneHasANameOfItsOwn)
+{
+    ReadingBook book;
+    book.series.resize(2);
+    book.series[0].name = "A";
+    book.series[1].name = "B";
+    EXPECT_TRUE(RenameSeries(book, 0, " second\tpolish "));
+    EXPECT_EQ("second polish", book.series[0].name);
+    EXPECT_TRUE(RenameSeries(book, 0, "second polish"));
+    for (const char* name : {"", "  ", "B"}) {
+        EXPECT_FALSE(RenameSeries(book, 0, name)) << name;
+    }
+    EXPECT_EQ("second polish", book.series[0].name);
+    EXPECT_FALSE(RenameSeries(book, 2, "C"));
+}
+
 TEST(ReadingSeries, CommaAndPointBothReadAndWrongTextStays)
 {
     ReadingSeries series = Sample();
