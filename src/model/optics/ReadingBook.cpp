@@ -345,7 +345,7 @@ SeriesImport ImportSeries(std::string_view text, double outer, const std::string
     text = WithoutBookMark(text);
     SeriesImport import;
     for (const BookSection& section : SectionsOf(text)) {
-        import.fault = ParseReadings(section.text, outer, section.first_line).fault;
+        import.fault = ParseReadingLines(section.text, outer, section.first_line).fault;
         if (import.fault) {
             import.series.clear();
             return import;

@@ -125,11 +125,14 @@ std::optional<double> ReadingValue(std::string_view cell)
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
-ReadingsParse ParseReadings(std::string_view text, double outer, int first_line)
+ReadingsParse ParseReadings(std::string_view text, double outer)
 {
-    if (text.starts_with(kByteOrderMark)) {
-        text.remove_prefix(kByteOrderMark.size());
-    }
+    const bool marked = text.starts_with(kByteOrderMark);
+    return ParseReadingLines(text.substr(marked ? kByteOrderMark.size() : 0), outer, 1);
+}
+
+ReadingsParse ParseReadingLines(std::string_view text, double outer, int first_line)
+{
     ReadingsParse parse;
     int line_number = first_line - 1;
     double before = 0;

@@ -53,8 +53,11 @@ struct ReadingsParse {
 };
 
 /// Reads the text of such a file, which may begin with a byte-order mark and have CR LF. `outer` is half the
-/// mirror's diameter in mm, beyond which no zone lies; `first_line` the number of the text's first line.
-ReadingsParse ParseReadings(std::string_view text, double outer, int first_line = 1);
+/// mirror's diameter in mm, beyond which no zone lies.
+ReadingsParse ParseReadings(std::string_view text, double outer);
+
+/// The same of a part of a file that begins with the line of that number, and never with a byte-order mark.
+ReadingsParse ParseReadingLines(std::string_view text, double outer, int first_line);
 
 /// "line 3: the radii must rise".
 std::string FaultText(const ReadingsFault& fault, int language);

@@ -310,6 +310,11 @@ TEST(ReadingBook, ImportsSeriesBySeriesAndNoneOfAFileWithAFault)
     EXPECT_EQ(18, bad.fault->line); // 3 lines, 8 of the first series, 5 heads, the first zone
     EXPECT_TRUE(bad.series.empty());
     EXPECT_EQ(1, ImportSeries("", kOuter, "").fault->line);
+    EXPECT_FALSE(ImportSeries("\xEF\xBB\xBF"
+                              "30,1\n60,2\n90,3",
+                              kOuter, "")
+                     .fault);
+    EXPECT_TRUE(ImportSeries("\xEF\xBB\xBF\xEF\xBB\xBF#\n30,1\n60,2\n90,3", kOuter, "").fault);
 }
 
 } // namespace

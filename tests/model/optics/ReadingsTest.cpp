@@ -47,6 +47,12 @@ TEST(Readings, ByteOrderMarkAndLineEndsOfOtherSystemsAreFine)
     EXPECT_EQ(3u, ParseReadings("30,1\r\n60,2\r\n90,3\r\n", kOuter).zones.size());
 }
 
+TEST(Readings, ASecondByteOrderMarkIsNone)
+{
+    EXPECT_EQ("line 1: the radius of the zone is no number",
+              Fault("\xEF\xBB\xBF\xEF\xBB\xBF# zones\n30,1\n"));
+}
+
 TEST(Readings, SkippedLinesCountAsLines)
 {
     const char* const text = "# mirror of 1998\nradius,reading\n\n30,1\n#\n60,2\n90,3\n";
@@ -140,7 +146,7 @@ TEST(Readings, OtherEncodingsAreAFaultOfTheirFirstLine)
 
 TEST(Readings, AFaultIsToldInBothLanguagesWithItsLine)
 {
-    const ReadingsParse parse = ParseReadings("30,1\n20,2\n", kOuter, 11);
+    const ReadingsParse parse = ParseReadingLines("30,1\n20,2\n", kOuter, 11);
     ASSERT_TRUE(parse.fault);
     EXPECT_EQ("line 12: the radii of the zones must rise", FaultText(*parse.fault, kEnglish));
     EXPECT_EQ("Zeile 12: die Radien der Zonen m\xFCssen steigen", FaultText(*parse.fault, kGerman));
