@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/DocumentHost.h"
+#include "document/FoucaultReadings.h"
 #include "model/record/OrrevaData.h"
 #include "raytrace/ViewSwitches.h"
 
@@ -76,6 +77,10 @@ public:
     double mirror_back_position = 0.0;
     double mirror_front_position = 0.0;
     std::array<BarParam, 32> bar_params{};
+    FoucaultReadings readings; ///< of the knife edge, kept beside the design
+
+    /// Takes another book of readings over, as the design's own change.
+    void StoreReadings(const ReadingBook& book);
 
 private:
     void ToggleRayMode(std::uint8_t ViewSwitches::*mode);
