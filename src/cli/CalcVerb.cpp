@@ -24,7 +24,7 @@ public:
     int Finish()
     {
         const int status = m_output.Finish();
-        return m_numbers ? status : kFailed;
+        return m_numbers || m_output.IsReaderGone() ? status : kFailed;
     }
 
 private:

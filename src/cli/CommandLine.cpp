@@ -12,18 +12,21 @@
 
 namespace {
 
-constexpr std::uint32_t kTelescopeVerbs = kReport | kRays | kDraw | kSaveVerb | kExport | kFigureVerb;
-constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc;
-constexpr std::uint32_t kTableVerbs = kReport | kFigureVerb; ///< those that print tables in several forms
+constexpr std::uint32_t kTelescopeVerbs =
+    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck | kFigureVerb;
+constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kCompare;
+constexpr std::uint32_t kTableVerbs = kReport | kValues | kSweep | kCompare | kCheck |
+                                      kFigureVerb; ///< those that print tables in several forms
 
 struct VerbName {
     std::string_view name;
     Verb verb;
 };
 
-constexpr VerbName kVerbs[] = {{"report", kReport}, {"rays", kRays},        {"draw", kDraw},
-                               {"save", kSaveVerb}, {"import", kImport},    {"export", kExport},
-                               {"calc", kCalc},     {"figure", kFigureVerb}};
+constexpr VerbName kVerbs[] = {{"report", kReport},   {"rays", kRays},     {"draw", kDraw},
+                               {"save", kSaveVerb},   {"import", kImport}, {"export", kExport},
+                               {"calc", kCalc},       {"values", kValues}, {"sweep", kSweep},
+                               {"compare", kCompare}, {"check", kCheck},   {"figure", kFigureVerb}};
 
 struct Option {
     std::string_view name;
@@ -52,6 +55,10 @@ constexpr Option kOptions[] = {
     {"--readings", true, kFigureVerb | kDraw},
     {"--conic", true, kFigureVerb | kDraw},
     {"--wavelength", true, kFigureVerb | kDraw},
+    {"--only", true, kValues},
+    {"--vary", true, kSweep},
+    {"--show", true, kSweep},
+    {"--jobs", true, kSweep},
     {"--mode", true, kRays | kDraw},
     {"--pointer", true, kRays | kDraw},
     {"--hide-lost", false, kRays},

@@ -16,7 +16,11 @@ enum Verb : std::uint32_t {
     kImport = 16,
     kExport = 32,
     kCalc = 64,
-    kFigureVerb = 256,
+    kValues = 128,
+    kSweep = 256,
+    kCompare = 512,
+    kCheck = 1024,
+    kFigureVerb = 2048,
 };
 
 /// The command line, taken apart: the verb, the words that are no options, and the options in their order.

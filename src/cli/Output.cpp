@@ -1,5 +1,6 @@
 #include "cli/Output.h"
 
+#include <cerrno>
 #include <cstdio>
 
 Output::Output(const std::string& outputPath) : m_path(outputPath)
@@ -9,24 +10,31 @@ Output::Output(const std::string& outputPath) : m_path(outputPath)
     }
 }
 
+bool Output::Note(bool good)
+{
+    m_readerGone = m_readerGone || (!good && errno == EPIPE);
+    return good;
+}
+
 bool Output::Write(std::string_view bytes)
 {
     m_good = m_good && (m_file ? m_file->Write(bytes)
-                               : std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size());
+                               : Note(std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size()));
     return m_good;
 }
 
 bool Output::Flush()
 {
-    m_good = m_good && (m_file || std::fflush(stdout) == 0);
+    m_good = m_good && (m_file || Note(std::fflush(stdout) == 0));
     return m_good;
 }
 
 int Output::Finish()
 {
-    m_good = m_good && (m_file ? m_file->Commit() : std::fflush(stdout) == 0);
-    return m_good ? kDone
-                  : Fail("cannot write " + (m_path.empty() ? std::string("to standard output") : m_path));
+    m_good = m_good && (m_file ? m_file->Commit() : Note(std::fflush(stdout) == 0));
+    return m_good || m_readerGone
+               ? kDone
+               : Fail("cannot write " + (m_path.empty() ? std::string("to standard output") : m_path));
 }
 
 int WriteOutput(const std::string& path, std::string_view bytes)

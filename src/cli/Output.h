@@ -9,9 +9,11 @@
 /// Exit status of the program.
 inline constexpr int kDone = 0;
 inline constexpr int kFailed = 1;
+inline constexpr int kFaults = 3; ///< a design that was checked has errors or warnings
 
 /// Where a verb's bytes go: to the file at a path, which appears whole or not at all, or, for an empty path,
-/// to standard output as they come.
+/// to standard output as they come. A reader of standard output that goes away has seen enough: what is
+/// written then fails, and yet all is well.
 class Output {
 public:
     explicit Output(const std::string& path);
@@ -22,11 +24,17 @@ public:
     bool Flush();
     /// The exit status; a failure is told on standard error.
     int Finish();
+    /// Whether the reader went away.
+    bool IsReaderGone() const { return m_readerGone; }
 
 private:
+    /// Takes over how a call on standard output went.
+    bool Note(bool good);
+
     std::string m_path;
     std::optional<FileReplacement> m_file;
     bool m_good = true;
+    bool m_readerGone = false;
 };
 
 /// All bytes at once. The exit status.

@@ -70,8 +70,8 @@ bool TerminalHost::AskQuickNew(QuickNewTexts& texts)
     return true;
 }
 
-bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& file, TerminalHost& host,
-                   COrrevaDoc& document)
+std::optional<std::size_t> StartTelescope(const CommandLine& words, const std::optional<std::string>& file,
+                                          TerminalHost& host, COrrevaDoc& document)
 {
     const std::vector<Setting> settings = Settings(words);
     if (file) {
@@ -82,7 +82,7 @@ bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& f
         }
         if (!ReadFileBytes(file->c_str(), 1)) {
             Fail("cannot read " + *file);
-            return false;
+            return std::nullopt;
         }
         host.path = *file;
         document.OnFileOpen();
@@ -99,8 +99,15 @@ bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& f
         std::visit(Store{*document.active_record, setting.value, setting.value == kUnset},
                    setting.field->field);
     }
-    if (!settings.empty()) {
+    return settings.size();
+}
+
+bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& file, TerminalHost& host,
+                   COrrevaDoc& document)
+{
+    const auto stored = StartTelescope(words, file, host, document);
+    if (stored.value_or(0) > 0) {
         document.Recalculate();
     }
-    return true;
+    return stored.has_value();
 }

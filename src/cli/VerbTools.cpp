@@ -1,5 +1,20 @@
 #include "cli/VerbTools.h"
 
+DesignState DesignOf(COrrevaDoc& document)
+{
+    document.Recalculate();
+    return {*document.active_record, {document.field_diameter_100, document.field_angle_100}};
+}
+
+const DesignValue& ValueOf(const std::string& option, const std::string& name)
+{
+    const DesignValue* const value = FindDesignValue(name);
+    if (value == nullptr) {
+        UsageError("unknown name in " + option, name);
+    }
+    return *value;
+}
+
 std::string OutputPath(const CommandLine& words) { return words.Value("-o").value_or(""); }
 
 std::optional<std::string> FileWord(const CommandLine& words, std::size_t first)

@@ -3,6 +3,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Telescope.h"
 #include "lib/text/Table.h"
+#include "model/analysis/Values.h"
 
 #include <optional>
 #include <string>
@@ -16,6 +17,12 @@ struct TerminalDocument {
 
     TerminalDocument() { g_pCurrentDocument = &document; }
 };
+
+/// Recalculates once more, so that no first reading shows, and gives the design whose numbers are read then.
+DesignState DesignOf(COrrevaDoc& document);
+
+/// The value of a name that an option gives; an unknown one ends the program.
+const DesignValue& ValueOf(const std::string& option, const std::string& name);
 
 /// Where the words want the output; empty for standard output.
 std::string OutputPath(const CommandLine& words);

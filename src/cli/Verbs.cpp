@@ -280,8 +280,10 @@ struct Entry {
     int (*run)(const CommandLine& words);
 };
 
-constexpr Entry kEntries[] = {{kReport, Report}, {kRays, Rays},     {kDraw, Draw}, {kSaveVerb, Save},
-                              {kImport, Import}, {kExport, Export}, {kCalc, Calc}, {kFigureVerb, FigureVerb}};
+constexpr Entry kEntries[] = {{kReport, Report},       {kRays, Rays},         {kDraw, Draw},
+                              {kSaveVerb, Save},       {kImport, Import},     {kExport, Export},
+                              {kCalc, Calc},           {kValues, ValuesVerb}, {kSweep, SweepVerb},
+                              {kCompare, CompareVerb}, {kCheck, CheckVerb},   {kFigureVerb, FigureVerb}};
 
 } // namespace
 

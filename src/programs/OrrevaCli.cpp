@@ -14,12 +14,16 @@ namespace {
 
 constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a window
 
-  orreva-cli report [TELESCOPE] [--page PAGE]... [--details] [--format text|csv|json]
+  orreva-cli report [TELESCOPE] [--page PAGE]... [--details]
   orreva-cli rays   [TELESCOPE] --mode parallel|focal|pointer --pointer X,Y [--hide-lost] [--no-offset]
   orreva-cli draw   [TELESCOPE] --picture PICTURE --size WxH -o OUT.png|.svg|.pdf
   orreva-cli save   [TELESCOPE] [-o FILE]
   orreva-cli import OLD [-o FILE]
   orreva-cli export oslo|fta [TELESCOPE] [-o OUT]
+  orreva-cli values [TELESCOPE] [--only NAME]...
+  orreva-cli check  [TELESCOPE]
+  orreva-cli compare FILE FILE
+  orreva-cli sweep  [TELESCOPE] --vary KEY=FROM:TO:COUNT... [--show NAME]... [--jobs N]
   orreva-cli calc   [EXPRESSION]...
   orreva-cli figure [TELESCOPE] --readings FILE [--source moving|fixed] [--conic K] [--wavelength NM]
                     [--format text|csv|json]
@@ -35,10 +39,15 @@ PICTURE is section (--mode, --pointer, --zoom 1..5, --scroll X,Y, --extended, --
 summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM),
 sector (--type I --diameter MM --value V) or wavefront (--readings FILE, --source, --conic, --wavelength).
 
+values prints every number of the design, or each NAME, with its unit; check tells what is wrong with it, and
+compare what differs between two. sweep prints a table of designs: one to four --vary, the first running slowest.
+report, values, check, compare and sweep take --format text|csv|json.
+
 calc answers each expression, or each line of standard input, with one line.
 
 Every verb takes --language en|de and -o FILE; --help and --version stand alone or behind a verb.
-Exit status: 0 done, 1 a file or an expression failed, 2 the command line is not understood.
+Exit status: 0 done, 1 a file or an expression failed, 2 the command line is not understood, 3 check found
+errors or warnings.
 )";
 
 } // namespace

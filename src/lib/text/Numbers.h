@@ -22,3 +22,7 @@ std::int32_t IntegerValue(const char* psz);
 /// characters or more are 0.0; leading blanks and tabs are skipped; "1.#INF" is the unset mark HUGE_VAL; the
 /// first comma counts as a point.
 double TextToDouble(const char* psz);
+
+/// Whether the whole text is a number that TextToDouble reads, between blanks: "1.#INF", words, an empty text
+/// and 1001 characters are none.
+bool IsNumberText(const char* psz);

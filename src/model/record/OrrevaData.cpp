@@ -5,6 +5,7 @@
 #include "lib/text/CodePage.h"
 #include "lib/text/Language.h"
 #include "lib/text/Log.h"
+#include "lib/text/LogSink.h"
 #include "lib/text/Numbers.h"
 
 #include <cstring>
@@ -14,6 +15,17 @@ namespace {
 constexpr const char* kDefaultPath = "noname.orreva.xml";
 constexpr Bilingual kSavePrompt{"Save %s?",
                                 "Die Daten wurden verändert.\nSoll die Datei %s gesichert werden?"_cp1252};
+
+/// A line of the log, made only where somebody takes it: a sweep reads millions of defaults.
+template <class... Values>
+void LogFormatted(const char* format, Values... values)
+{
+    if (HasLogSink()) {
+        LibString line;
+        line.Format(format, values...);
+        LogText(line);
+    }
+}
 
 /// A wait cursor for as long as it lives.
 class Wait {
@@ -169,9 +181,7 @@ std::int32_t COrrevaData::GetTubeType()
 
 void COrrevaData::SetTubeType(std::int32_t value)
 {
-    LibString line;
-    line.Format("COrrevaData::SetTubeType: %d", value);
-    LogText(line);
+    LogFormatted("COrrevaData::SetTubeType: %d", value);
     tube_type = value;
 }
 
@@ -258,9 +268,7 @@ double COrrevaData::GetFocuserDiameter()
         const double w = GetWanted100PercentFow();
         const double raw = z * D / f + w / 2;
         focuser_diameter = StandardFocuserDiameter(raw);
-        LibString line;
-        line.Format("GetFocuserDiameter: %f, %f", raw, focuser_diameter);
-        LogText(line);
+        LogFormatted("GetFocuserDiameter: %f, %f", raw, focuser_diameter);
     }
     return focuser_diameter;
 }
@@ -356,9 +364,7 @@ double COrrevaData::DefaultInsideDiameterHat()
     const double total = GetFocuserTotalHeight();
     const double front = GetDistanceFront();
     const double mirror_to_front = f - (D + kSmallestMargin) / 2 - thickness - total + front;
-    LibString line;
-    line.Format("Mirror to Front: %f", mirror_to_front);
-    LogText(line);
+    LogFormatted("Mirror to Front: %f", mirror_to_front);
 
     const double margin = std::tan(kRadiansOfDegree * angle) * mirror_to_front;
     return D + (margin < kSmallestMargin ? kSmallestMargin : margin);
