@@ -9,7 +9,7 @@
 
 CReadingsView::CReadingsView(QWidget* parent) : QTableView(parent)
 {
-    setEditTriggers(QAbstractItemView::AllEditTriggers & ~QAbstractItemView::CurrentChanged);
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     setTabKeyNavigation(true);
     horizontalHeader()->setDefaultSectionSize(92);
