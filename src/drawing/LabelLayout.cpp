@@ -1,6 +1,6 @@
 #include "drawing/LabelLayout.h"
 
-#include "drawing/ClipLine.h"
+#include "drawing/ClipSegment.h"
 #include "lib/text/Numbers.h"
 
 #include <algorithm>
@@ -162,7 +162,8 @@ bool LabelLayout::IsClear(Point middle, std::string_view text) const
 
 bool LabelLayout::Crosses(const Segment& segment, const Box& box)
 {
-    return ClipLine({segment.from, segment.to}, {box.dLeft, box.dTop, box.dRight, box.dBottom}).has_value();
+    return ClipSegment(segment.from, segment.to, {box.dLeft, box.dTop}, {box.dRight, box.dBottom})
+        .has_value();
 }
 
 Pixel NearestPixel(Point at) { return {TruncToInt32(std::round(at.x)), TruncToInt32(std::round(at.y))}; }

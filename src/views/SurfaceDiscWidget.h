@@ -1,13 +1,12 @@
 #pragma once
 
 #include "model/optics/Figure.h"
-
-#include <QWidget>
+#include "views/PictureWidget.h"
 
 #include <optional>
 
 /// The heights of a mirror's surface as a disc in colours.
-class CSurfaceDiscWidget : public QWidget {
+class CSurfaceDiscWidget : public CPictureWidget {
     Q_OBJECT
 
 public:
@@ -17,7 +16,7 @@ public:
     void Show(std::optional<Figure> figure, double D);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void Paint(Surface& surface) override;
 
 private:
     std::optional<Figure> m_figure;

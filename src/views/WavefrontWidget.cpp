@@ -1,14 +1,6 @@
 #include "views/WavefrontWidget.h"
 
-#include "painting/PainterSurface.h"
-
-#include <QPainter>
-
-CWavefrontWidget::CWavefrontWidget(QWidget* parent) : QWidget(parent)
-{
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    setMinimumSize(260, 160);
-}
+CWavefrontWidget::CWavefrontWidget(QWidget* parent) : CPictureWidget(parent) { setMinimumSize(260, 160); }
 
 void CWavefrontWidget::Show(Chart chart)
 {
@@ -16,11 +8,9 @@ void CWavefrontWidget::Show(Chart chart)
     update();
 }
 
-void CWavefrontWidget::paintEvent(QPaintEvent*)
+void CWavefrontWidget::Paint(Surface& surface)
 {
     constexpr int kHalfLight = 128;
-    QPainter painter(this);
-    PainterSurface surface(painter, width(), height());
     const bool dark = palette().color(QPalette::Window).lightness() < kHalfLight;
     PaintChart(surface, m_chart, dark ? kDarkChart : kLightChart);
 }

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "drawing/Chart.h"
-
-#include <QWidget>
+#include "views/PictureWidget.h"
 
 /// A chart of the wavefront, or of the transverse aberrations, that follows what is typed.
-class CWavefrontWidget : public QWidget {
+class CWavefrontWidget : public CPictureWidget {
     Q_OBJECT
 
 public:
@@ -15,7 +14,7 @@ public:
     const Chart& Shown() const { return m_chart; }
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void Paint(Surface& surface) override;
 
 private:
     Chart m_chart;
