@@ -13,6 +13,10 @@ namespace {
 
 constexpr int kNameColumn = 0;
 constexpr const char* kReadingsFilter = "CSV (*.csv)|*.csv|All Files (*.*)|*.*||";
+constexpr FileDialog kImportReadings{
+    false, kReadingsFilter, "csv", "", {"Import Readings", "Messwerte importieren"}};
+constexpr FileDialog kExportReadings{
+    true, kReadingsFilter, "csv", "", {"Export Readings", "Messwerte exportieren"}};
 constexpr Bilingual kBadName{"A series needs a name of its own.",
                              "Eine Messreihe braucht einen eigenen Namen."};
 
@@ -119,7 +123,7 @@ void CPropertyPageCouder2::RemoveSeries()
 
 void CPropertyPageCouder2::ImportFile()
 {
-    const std::string path = m_session.Document().Host().AskPath({false, kReadingsFilter, "csv", ""});
+    const std::string path = m_session.Document().Host().AskPath(kImportReadings);
     if (!path.empty()) {
         const std::string told = m_session.Import(path);
         m_ui->told->setText(ToQString(told));
@@ -130,7 +134,7 @@ void CPropertyPageCouder2::ExportFile()
 {
     constexpr Bilingual kNotWritten{"The file could not be written.",
                                     "Die Datei konnte nicht geschrieben werden."};
-    const std::string path = m_session.Document().Host().AskPath({true, kReadingsFilter, "csv", ""});
+    const std::string path = m_session.Document().Host().AskPath(kExportReadings);
     if (!path.empty()) {
         m_ui->told->setText(m_session.Export(path) ? QString() : ToQString(kNotWritten.In(g_nLanguage)));
     }
