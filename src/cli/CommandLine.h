@@ -20,7 +20,8 @@ enum Verb : std::uint32_t {
     kSweep = 256,
     kCompare = 512,
     kCheck = 1024,
-    kRescue = 1 << 20,
+    kFigureVerb = 2048,
+    kRescue = 4096,
 };
 
 /// The command line, taken apart: the verb, the words that are no options, and the options in their order.

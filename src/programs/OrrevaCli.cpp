@@ -29,6 +29,8 @@ constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a wind
   orreva-cli compare FILE FILE
   orreva-cli sweep  [TELESCOPE] --vary KEY=FROM:TO:COUNT... [--show NAME]... [--jobs N]
   orreva-cli calc   [EXPRESSION]...
+  orreva-cli figure [TELESCOPE] --readings FILE [--source moving|fixed] [--conic K] [--wavelength NM]
+                    [--format text|csv|json]
   orreva-cli rescue [NUMBER] [-o FILE]
 
 TELESCOPE is a design FILE, or the telescope of the quick New dialog with any of --diameter MM,
@@ -40,7 +42,8 @@ field, all of them without --page; or illumination. For foucault: --zones N, --c
 
 PICTURE is section (--mode, --pointer, --zoom 1..5, --scroll X,Y, --extended, --no-offset, --box-and-cage),
 summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM),
-sector (--type I --diameter MM --value V), illumination or secondary-choice.
+sector (--type I --diameter MM --value V), illumination, secondary-choice or wavefront (--readings FILE, --source,
+--conic, --wavelength).
 
 values prints every number of the design, or each NAME, with its unit; check tells what is wrong with it, and
 compare what differs between two. sweep prints a table of designs: one to four --vary, the first running slowest.
