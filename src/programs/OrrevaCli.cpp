@@ -7,6 +7,7 @@
 #include "Version.h"
 
 #include <csignal>
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -39,14 +40,9 @@ Every verb takes --language en|de and -o FILE; --help and --version stand alone 
 Exit status: 0 done, 1 a file or an expression failed, 2 the command line is not understood.
 )";
 
-} // namespace
-
-int main(int argc, char** argv)
+int Run(const std::vector<std::string>& arguments)
 {
-    std::signal(SIGPIPE, SIG_IGN); // a reader that has seen enough ends the output as a failed write
-    SetLogSink(nullptr);           // standard error is for the user, in a debug build too
-    const CommandLine words =
-        ParseCommandLine(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    const CommandLine words = ParseCommandLine(arguments);
     if (words.help || words.version) {
         return WriteOutput("", words.help ? kHelp : std::string("orreva-cli ") + kVersion + "\n");
     }
@@ -54,4 +50,18 @@ int main(int argc, char** argv)
         g_nLanguage = static_cast<int>(ChoiceOf("--language", *language, {"en", "de"}));
     }
     return RunVerb(words);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::signal(SIGPIPE, SIG_IGN); // a reader that has seen enough ends the output as a failed write
+    SetLogSink(nullptr);           // standard error is for the user, in a debug build too
+    try {
+        return Run(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    } catch (const UsageFault& fault) {
+        std::fprintf(stderr, "%s\n", fault.line.c_str());
+        return 2;
+    }
 }

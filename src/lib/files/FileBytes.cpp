@@ -83,20 +83,22 @@ std::optional<std::string> ReadFileBytes(const char* pszPath, std::size_t limit)
         return std::nullopt;
     }
     const File file(std::fopen(pszPath, "rb"));
-    if (!file) {
-        return std::nullopt;
-    }
+    return file ? ReadStreamBytes(file.get(), limit) : std::nullopt;
+}
+
+std::optional<std::string> ReadStreamBytes(std::FILE* file, std::size_t limit)
+{
     std::string bytes;
     char block[65536];
     while (bytes.size() < limit) {
         const std::size_t wanted = std::min(sizeof block, limit - bytes.size());
-        const std::size_t got = std::fread(block, 1, wanted, file.get());
+        const std::size_t got = std::fread(block, 1, wanted, file);
         bytes.append(block, got);
         if (got < wanted) {
             break;
         }
     }
-    return std::ferror(file.get()) != 0 ? std::nullopt : std::optional<std::string>(std::move(bytes));
+    return std::ferror(file) != 0 ? std::nullopt : std::optional<std::string>(std::move(bytes));
 }
 
 FileReplacement::FileReplacement(const char* pszPath)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdio>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,6 +12,9 @@ inline constexpr std::size_t kMostFileBytes = std::size_t{1} << 30;
 /// All bytes of a file, at most `limit` of them; nothing if it is no readable regular file: a pipe that
 /// nobody fills would be waited for, and a device may have no end.
 std::optional<std::string> ReadFileBytes(const char* pszPath, std::size_t limit = kMostFileBytes);
+
+/// The bytes of an open file from where it stands, at most `limit` of them; nothing if reading fails before.
+std::optional<std::string> ReadStreamBytes(std::FILE* file, std::size_t limit = kMostFileBytes);
 
 /// The new contents of a file, written piece by piece beside it. The file is replaced whole by Commit or left
 /// as it was: the pieces are flushed to the disk and renamed into its place. A device or a pipe, which cannot

@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -53,6 +55,36 @@ TEST(ReadFileBytes, GivesNothingForWhatIsNoReadableFile)
     EXPECT_EQ(std::nullopt, ReadFileBytes(folder.Path().c_str()));
     EXPECT_EQ(std::nullopt, ReadFileBytes((folder / "missing").c_str()));
     EXPECT_EQ(std::nullopt, ReadFileBytes(""));
+}
+
+TEST(ReadStreamBytes, GivesNothingOnceAReadFails)
+{
+    // Six bytes in pieces of two, and then no more.
+    static int given;
+    const auto open = [] {
+        given = 0;
+        const auto read = [](void*, char* target, std::size_t) -> ssize_t {
+            if (given == 6) {
+                errno = EIO;
+                return -1;
+            }
+            target[0] = static_cast<char>('a' + given);
+            target[1] = static_cast<char>('b' + given);
+            given += 2;
+            return 2;
+        };
+        return fopencookie(nullptr, "rb", {read, nullptr, nullptr, nullptr});
+    };
+    for (const std::size_t limit : {0u, 1u, 4u, 6u}) {
+        std::FILE* const file = open();
+        EXPECT_EQ(std::string("abcdef").substr(0, limit), ReadStreamBytes(file, limit));
+        std::fclose(file);
+    }
+    for (const std::size_t limit : {std::size_t{7}, kMostFileBytes}) {
+        std::FILE* const file = open();
+        EXPECT_EQ(std::nullopt, ReadStreamBytes(file, limit)) << "half a file is none";
+        std::fclose(file);
+    }
 }
 
 TEST(ReplaceFile, WritesANewFileAndReplacesAnOldOneWhole)
