@@ -10,6 +10,7 @@
 #include "pages/sheet/Help.h"
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
+#include "views/ProgramIcon.h"
 
 #include "ui_MainFrame.h"
 
@@ -20,6 +21,7 @@
 namespace {
 
 constexpr const char* kCommandId = "commandId";
+constexpr const char* kIconName = "iconName";
 constexpr int kPaneWidth = 260;
 
 // The view styles of a list view, which this program has none of: they are shown and do nothing.
@@ -34,7 +36,6 @@ CMainFrame::CMainFrame(COrrevaDoc& doc, const CThreadLocale& locale)
     : m_document(doc), m_threadLocale(locale), m_ui(std::make_unique<Ui::MainFrame>())
 {
     m_ui->setupUi(this);
-    setWindowIcon(QIcon(":/icons/orreva.svg"));
     CreateBars();
     CreatePanes();
     BindActions();
@@ -72,6 +73,10 @@ void CMainFrame::CreatePanes()
 void CMainFrame::BindActions()
 {
     for (QAction* const action : findChildren<QAction*>()) {
+        const QString icon = action->property(kIconName).toString();
+        if (!icon.isEmpty()) {
+            action->setIcon(ProgramIcon(icon));
+        }
         const int id = action->property(kCommandId).toInt();
         if (id != 0) {
             connect(action, &QAction::triggered, this, [this, id] { OnCommand(id); });
@@ -98,7 +103,9 @@ void CMainFrame::BindAccelerators()
 
 void CMainFrame::SetDocumentTitle(const QString& title)
 {
-    setWindowTitle(title.isEmpty() ? QString("Orreva") : title + " - Orreva");
+    // The toolkit takes "[*]" for the place of a mark that a document was changed, and two of them for one.
+    const QString caption = QString(title).replace("[*]", "[*][*]");
+    setWindowTitle(caption.isEmpty() ? QString("Orreva") : caption + " - Orreva");
 }
 
 void CMainFrame::Freeze(bool frozen)

@@ -2,8 +2,7 @@
 
 #include "lib/text/Numbers.h"
 
-#include <algorithm>
-#include <cmath>
+#include <array>
 #include <cstdint>
 #include <random>
 
@@ -28,38 +27,34 @@ private:
     }
 };
 
-/// Whether the ray from the point (x, rad away from the centre) of the mirror passes between the lines of a
-/// grating that stands `offset` from the centre of curvature.
-inline bool PassesGrating(const RonchiTest& test, double offset, double x, double rad)
-{
-    const double c = rad * rad * test.constant / test.R + test.R; // where the normal meets the axis
-    const double u = std::abs((2 * offset + test.R - c) * x / c);
-    return TruncToInt32(u / test.w + 0.5) % 2 == 0;
-}
-
 using RonchiGenerator = std::minstd_rand;
 
-/// Throws 15000 points on one quadrant of the mirror and calls `light(px, py)` for each through which light
-/// passes, with its distances from the centre in pixels: 0 to 100, which is the edge.
-template <class Light>
-void ScatterRonchiDots(const RonchiTest& test, double offset, RonchiGenerator& generator, Light light)
-{
-    constexpr int kTries = 15000;
-    constexpr int kSteps = 105; // of the radius
-    double place[kSteps];
-    std::int32_t pixel[kSteps];
-    for (int i = 0; i < kSteps; ++i) {
-        place[i] = i * test.r / kSteps;
-        pixel[i] = std::clamp(TruncToInt32(place[i] * 100 / test.r), 0, 100);
-    }
-    for (int i = 0; i < kTries; ++i) {
-        const auto column = generator() % kSteps;
-        const auto row = generator() % kSteps;
-        const double x = place[column];
-        const double y = place[row];
-        const double rad = std::sqrt(x * x + y * y);
-        if (!(rad > test.r) && PassesGrating(test, offset, x, rad)) {
-            light(pixel[column], pixel[row]);
-        }
-    }
-}
+/// Points are thrown on a quadrant of the mirror and fall on places of this grid.
+inline constexpr std::int32_t kRonchiSteps = 105; ///< of the radius
+inline constexpr std::int32_t kRonchiThrows = 15000;
+
+/// A yes or no for each place, row by row: x runs along a row.
+using RonchiPlaces = std::array<std::uint8_t, kRonchiSteps * kRonchiSteps>;
+
+/// The places that the throws of one pattern hit: columns and rows in turn from the generator, which is left
+/// as it would be after that many single draws.
+RonchiPlaces ThrowRonchiDots(RonchiGenerator& generator);
+
+/// The quadrant of a mirror on the grid: what does not depend on the grating's offset is computed once.
+class RonchiMirror {
+public:
+    explicit RonchiMirror(const RonchiTest& test);
+
+    /// The places on the mirror through which light passes between the lines of a grating that stands
+    /// `offset` inches from the centre of curvature.
+    RonchiPlaces LitPlaces(double offset) const;
+    /// Distance of a column or row from the centre in pixels: 0 to 100, which is the edge.
+    std::int32_t PixelOf(std::int32_t step) const { return m_pixels[static_cast<std::size_t>(step)]; }
+
+private:
+    RonchiTest m_test;
+    std::array<double, kRonchiSteps> m_places;
+    std::array<std::int32_t, kRonchiSteps> m_pixels;
+    std::array<double, kRonchiSteps * kRonchiSteps> m_axisCuts; ///< where the place's normal meets the axis
+    RonchiPlaces m_onMirror;
+};

@@ -14,14 +14,24 @@ std::vector<Colour> RonchiPatterns(const RonchiTest& test, RonchiGenerator& gene
 {
     constexpr std::ptrdiff_t kSide = RonchiBlock::kSide;
     std::vector<Colour> pixels(static_cast<std::size_t>(kSide * kSide), kWhite);
+    const RonchiMirror mirror(test);
     for (const RonchiPattern& pattern : kRonchiPatterns) {
         Colour* const centre = pixels.data() + (pattern.centre.y - RonchiBlock::kAt.y) * kSide +
                                (pattern.centre.x - RonchiBlock::kAt.x);
-        ScatterRonchiDots(test, pattern.offset, generator, [=](std::int32_t px, std::int32_t py) {
-            Colour* const above = centre - py * kSide;
-            Colour* const below = centre + py * kSide;
-            above[-px] = above[px] = below[-px] = below[px] = kBlack;
-        });
+        const RonchiPlaces thrown = ThrowRonchiDots(generator);
+        const RonchiPlaces lit = mirror.LitPlaces(pattern.offset);
+        const std::uint8_t* place = thrown.data();
+        const std::uint8_t* passes = lit.data();
+        for (std::int32_t row = 0; row < kRonchiSteps; ++row) {
+            Colour* const above = centre - mirror.PixelOf(row) * kSide;
+            Colour* const below = centre + mirror.PixelOf(row) * kSide;
+            for (std::int32_t column = 0; column < kRonchiSteps; ++column) {
+                if ((*place++ & *passes++) != 0) {
+                    const std::int32_t px = mirror.PixelOf(column);
+                    above[-px] = above[px] = below[-px] = below[px] = kBlack;
+                }
+            }
+        }
     }
     return pixels;
 }

@@ -1,6 +1,7 @@
 #include "pages/dialogs/AboutBox.h"
 
 #include "pages/sheet/Help.h"
+#include "views/ProgramIcon.h"
 
 #include "Version.h"
 #include "ui_AboutBox.h"
@@ -10,8 +11,9 @@ CAboutBox::CAboutBox(bool germanForm, QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->version->setText(QString("Orreva Version ") + kVersion);
-    m_ui->icon->setPixmap(QIcon(":/icons/orreva.svg").pixmap(64, 64));
+    m_ui->icon->setPixmap(ProgramIcon("orreva").pixmap(64, 64));
     m_ui->formulas->setVisible(germanForm);
+    m_ui->buttons->button(QDialogButtonBox::Ok)->setFocus(); // and not the button before it
     connect(m_ui->formulas, &QPushButton::clicked, this, [] { WinHelp(0, kHelpContext); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "pages/sheet/Controls.h"
 #include "views/HandCursorStatic.h"
+#include "views/ProgramIcon.h"
 
 #include <QVBoxLayout>
 
@@ -12,14 +13,14 @@ CHelpStrip::CHelpStrip(QWidget* parent) : QWidget(parent)
     const auto add = [&](int controlId, const char* icon, const QString& name) {
         auto* const picture = new CHandCursorStatic(this);
         picture->setProperty(kControlId, controlId);
-        picture->setIcon(QIcon(icon));
+        picture->setIcon(ProgramIcon(icon));
         picture->setToolTip(name);
         picture->setAccessibleName(name);
         column->addWidget(picture);
         return picture;
     };
-    add(kInfoControl, ":/icons/info.svg", tr("Info"));
-    m_help = add(kHelpControl, ":/icons/question.svg", tr("Help on this page"));
+    add(kInfoControl, "info", tr("Info"));
+    m_help = add(kHelpControl, "question", tr("Help on this page"));
     column->addStretch();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "views/ProgramIcon.h"
+
 #include <QToolButton>
 
 /// The small button beside a field that puts it back to what the program proposes.
@@ -9,7 +11,7 @@ class CResetButton : public QToolButton {
 public:
     explicit CResetButton(QWidget* parent = nullptr) : QToolButton(parent)
     {
-        setIcon(QIcon(":/icons/reset.svg"));
+        setIcon(ProgramIcon("reset"));
         setAutoRaise(true);
         setFocusPolicy(Qt::StrongFocus);
         setToolTip(tr("Put back to the proposed value"));
