@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
 namespace {
@@ -171,8 +169,7 @@ void UsageError(const std::string& reason, const std::string& word)
     std::string line = "orreva-cli: " + reason + " " + word;
     std::ranges::replace_if(
         line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
-    std::fprintf(stderr, "%s\n", line.c_str());
-    std::exit(2);
+    throw UsageFault{line};
 }
 
 std::size_t ChoiceOf(const std::string& option, const std::string& value,

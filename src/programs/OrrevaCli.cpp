@@ -7,6 +7,7 @@
 #include "Version.h"
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <new>
@@ -58,10 +59,9 @@ Exit status: 0 done, 1 a file or an expression failed, 2 the command line is not
 errors or warnings.
 )";
 
-int Run(int argc, char** argv)
+int Run(const std::vector<std::string>& arguments)
 {
-    const CommandLine words =
-        ParseCommandLine(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    const CommandLine words = ParseCommandLine(arguments);
     if (words.help || words.version) {
         return WriteOutput("", words.help ? kHelp : std::string("orreva-cli ") + kVersion + "\n");
     }
@@ -95,7 +95,10 @@ int main(int argc, char** argv)
     SetLogSink(nullptr);           // standard error is for the user, in a debug build too
     std::set_terminate(OnUncaught);
     try {
-        return Run(argc, argv);
+        return Run(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    } catch (const UsageFault& fault) {
+        std::fprintf(stderr, "%s\n", fault.line.c_str());
+        return 2;
     } catch (const std::bad_alloc&) {
         return Fail(kNoMemory);
     } catch (const std::length_error&) {
