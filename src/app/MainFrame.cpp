@@ -36,7 +36,6 @@ CMainFrame::CMainFrame(COrrevaDoc& doc, const CThreadLocale& locale)
     : m_document(doc), m_threadLocale(locale), m_ui(std::make_unique<Ui::MainFrame>())
 {
     m_ui->setupUi(this);
-    setWindowIcon(ProgramIcon("orreva"));
     CreateBars();
     CreatePanes();
     BindActions();
@@ -104,7 +103,9 @@ void CMainFrame::BindAccelerators()
 
 void CMainFrame::SetDocumentTitle(const QString& title)
 {
-    setWindowTitle(title.isEmpty() ? QString("Orreva") : title + " - Orreva");
+    // The toolkit takes "[*]" for the place of a mark that a document was changed, and two of them for one.
+    const QString caption = QString(title).replace("[*]", "[*][*]");
+    setWindowTitle(caption.isEmpty() ? QString("Orreva") : caption + " - Orreva");
 }
 
 void CMainFrame::Freeze(bool frozen)

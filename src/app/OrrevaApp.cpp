@@ -6,6 +6,7 @@
 #include "lib/text/Language.h"
 #include "lib/text/Log.h"
 #include "pages/sheet/Help.h"
+#include "views/ProgramIcon.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -40,6 +41,7 @@ void OpenHelp(long data, unsigned command)
 
 COrrevaApp::COrrevaApp()
 {
+    QApplication::setWindowIcon(ProgramIcon("orreva")); // of every window, the first message's too
     SetAssertDesktop(&m_host);
     SetHelpHandler(OpenHelp);
 }

@@ -1,5 +1,6 @@
 #include "app/ProgramStyle.h"
 
+#include "pages/sheet/PropertySheet.h"
 #include "views/ProgramIcon.h"
 #include "views/ResultList.h"
 
@@ -10,6 +11,8 @@ namespace {
 
 /// On either side of a column's texts, in pixels.
 constexpr int kColumnGap = 4;
+/// Above and below them.
+constexpr int kRowGap = 2;
 
 bool IsOfResultList(const QWidget* widget)
 {
@@ -37,6 +40,27 @@ int CProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
     const int desktops = QProxyStyle::pixelMetric(metric, option, widget);
     const bool margin = metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin;
     return margin && IsOfResultList(widget) ? desktops + kColumnGap : desktops;
+}
+
+QSize CProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                      const QWidget* widget) const
+{
+    const QSize desktops = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const bool row = type == CT_ItemViewItem && IsOfResultList(widget);
+    return row ? desktops + QSize(0, 2 * kRowGap) : desktops;
+}
+
+int CProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* data) const
+{
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+        return 0;
+    }
+    if (hint == SH_DialogButtonLayout && widget != nullptr &&
+        qobject_cast<const CPropertySheet*>(widget->parentWidget()) != nullptr) {
+        return QDialogButtonBox::WinLayout; // OK, Cancel, Apply
+    }
+    return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 QIcon CProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,

@@ -4,6 +4,7 @@
 #include "app/Modals.h"
 #include "document/FileMasks.h"
 #include "document/OrrevaDoc.h"
+#include "lib/text/Language.h"
 #include "pages/dialogs/QuickNewDialog.h"
 #include "pages/dialogs/RaytracingSettingsDialog.h"
 #include "painting/QtText.h"
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 
 #include <csignal>
@@ -47,12 +49,29 @@ private:
     bool IsQuestion() const { return buttons().size() > 1; }
 };
 
+/// The lines of a message stay lines; longer ones than this are broken between words.
+void KeepLines(QMessageBox& box)
+{
+    constexpr int kMostCharacters = 100;
+    auto* const label = box.findChild<QLabel*>("qt_msgbox_label");
+    if (label == nullptr) {
+        return;
+    }
+    label->ensurePolished();
+    label->setWordWrap(false);
+    const int width = label->sizeHint().width();
+    if (width <= kMostCharacters * label->fontMetrics().averageCharWidth()) {
+        label->setMinimumWidth(width); // the box would break a line that is wider than half of the screen
+    }
+}
+
 int Box(QWidget* owner, QMessageBox::Icon icon, const QString& title, const QString& text,
         QMessageBox::StandardButtons buttons)
 {
     MessageBox box(icon, title, text, buttons, owner);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    KeepLines(box);
     return box.exec();
 }
 
@@ -138,6 +157,9 @@ std::string CQtHost::AskPath(const FileDialog& mask)
     // A name that is typed and does not exist is the document's to tell.
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
+    if (const QString title = ToQString(mask.title.In(g_nLanguage)); !title.isEmpty()) {
+        dialog.setWindowTitle(title);
+    }
     dialog.setNameFilters(NameFilters(mask.filter));
     dialog.setDefaultSuffix(QString::fromStdString(FilterEnding(mask)));
     dialog.selectFile(mask.file_name);

@@ -11,6 +11,7 @@
 #include "lib/files/FileBytes.h"
 #include "lib/text/Numbers.h"
 #include "painting/PainterSurface.h"
+#include "painting/QtText.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -90,8 +91,8 @@ constexpr NamedPicture kPictures[] = {
 
 using Paint = std::function<void(QPaintDevice& device)>;
 
-/// Each writes what `paint` paints to `file`; false if it cannot.
-bool WritePng(QBuffer& file, Pixel size, const Paint& paint)
+/// Each writes what `paint` paints to `file`, with a title where the form has one; false if it cannot.
+bool WritePng(QBuffer& file, Pixel size, const QString&, const Paint& paint)
 {
     QImage image(size.x, size.y, QImage::Format_RGB32);
     if (image.isNull()) {
@@ -102,22 +103,25 @@ bool WritePng(QBuffer& file, Pixel size, const Paint& paint)
     return image.save(&file, "PNG");
 }
 
-bool WriteSvg(QBuffer& file, Pixel size, const Paint& paint)
+bool WriteSvg(QBuffer& file, Pixel size, const QString& title, const Paint& paint)
 {
+    constexpr int kPixelsPerInch = 96; // those of style sheets, by which viewers reckon
     QSvgGenerator generator;
     generator.setOutputDevice(&file);
     generator.setSize(QSize(size.x, size.y));
     generator.setViewBox(QRect(0, 0, size.x, size.y));
-    generator.setTitle("Orreva");
+    generator.setResolution(kPixelsPerInch);
+    generator.setTitle(title);
     paint(generator);
     return true;
 }
 
-bool WritePdf(QBuffer& file, Pixel size, const Paint& paint)
+bool WritePdf(QBuffer& file, Pixel size, const QString& title, const Paint& paint)
 {
     constexpr int kPointsPerInch = 72;
     QPdfWriter writer(&file);
     writer.setCreator("Orreva");
+    writer.setTitle(title);
     writer.setResolution(kPointsPerInch);
     writer.setPageSize(QPageSize(QSizeF(size.x, size.y), QPageSize::Point, QString(), QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
@@ -127,7 +131,7 @@ bool WritePdf(QBuffer& file, Pixel size, const Paint& paint)
 
 struct Form {
     std::string_view ending;
-    bool (*write)(QBuffer& file, Pixel size, const Paint& paint);
+    bool (*write)(QBuffer& file, Pixel size, const QString& title, const Paint& paint);
 };
 constexpr Form kForms[] = {{".png", WritePng}, {".svg", WriteSvg}, {".pdf", WritePdf}};
 
@@ -139,6 +143,13 @@ const Form* FormOf(std::string_view path)
         }
     }
     return nullptr;
+}
+
+/// The design's title; the program's name for a picture of none.
+QString TitleOf(const COrrevaData& record)
+{
+    const QString title = ToQString(record.GetTitle().GetText());
+    return title.isEmpty() ? "Orreva" : title;
 }
 
 /// Fonts need an application of the toolkit; this one needs no screen. Null if there is one already.
@@ -207,7 +218,7 @@ int DrawPicture(const NamedPicture& picture, const DrawContext& context, const s
     };
     QBuffer file;
     file.open(QIODevice::WriteOnly);
-    if (!FormOf(path)->write(file, size, paint)) {
+    if (!FormOf(path)->write(file, size, TitleOf(context.record), paint)) {
         return 1;
     }
     const QByteArray& bytes = file.data();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "lib/text/Language.h"
 #include "model/record/OrrevaData.h"
 
 #include <cstdint>
@@ -12,6 +13,7 @@ struct FileDialog {
     const char* filter;
     const char* default_extension;
     const char* file_name;
+    Bilingual title{"", ""}; ///< what the dialog does; empty for the toolkit's own words
 };
 
 /// The texts of the quick New dialog, as the user leaves them (bytes of code page 1252).

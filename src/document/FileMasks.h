@@ -12,11 +12,18 @@ inline constexpr const char* kTelescopeFilter =
 inline constexpr FileDialog kOpenTelescope{false, kTelescopeFilter, "orreva.xml", ""};
 inline constexpr FileDialog kSaveTelescope{true, kTelescopeFilter, "orreva.xml", ""};
 
-inline constexpr FileDialog kExportOslo{true, "OSLO Lens Files (*.len)|*.len|All Files (*.*)|*.*||", "*.len",
-                                        "untitled.len"};
+inline constexpr FileDialog kExportOslo{true,
+                                        "OSLO Lens Files (*.len)|*.len|All Files (*.*)|*.*||",
+                                        "*.len",
+                                        "untitled.len",
+                                        {"Export OSLO Format", "OSLO Daten exportieren"}};
 /// Kept: the default extension of the other export stands here too.
-inline constexpr FileDialog kExportFta{true, "FTA Files (*.mir)|*.mir|All Files (*.*)|*.*||", "*.len",
-                                       "untitled.mir"};
+inline constexpr FileDialog kExportFta{
+    true,
+    "FTA Files (*.mir)|*.mir|All Files (*.*)|*.*||",
+    "*.len",
+    "untitled.mir",
+    {"Export Foucault Test Analysis 2.0B Data", "Foucault Test Analysis 2.0B Daten exportieren"}};
 
 /// The old format's mask is the one of the toolkit's document template, in the language of the program.
 inline constexpr Bilingual kOldFormatFilter{

@@ -38,8 +38,10 @@ void DrawFieldPicture(Surface& surface, const FieldTable& table)
             continue;
         }
         const auto radius = static_cast<std::int32_t>(i);
-        surface.Ellipse({kCentre.x - radius, kCentre.y - radius, kCentre.x + radius, kCentre.y + radius},
-                        GreyOf(ring.p), kPenWidth);
+        // The outline runs through the box's outer pixels: those on the far side belong to it.
+        surface.Ellipse(
+            {kCentre.x - radius, kCentre.y - radius, kCentre.x + radius + 1, kCentre.y + radius + 1},
+            GreyOf(ring.p), kPenWidth);
         if (radius % kLabelSpacing == 0) {
             DrawLabels(surface, radius, ring);
         }

@@ -1,5 +1,6 @@
 #include "drawing/LabelLayout.h"
 
+#include "drawing/ClipSegment.h"
 #include "lib/text/Numbers.h"
 
 #include <algorithm>
@@ -159,27 +160,10 @@ bool LabelLayout::IsClear(Point middle, std::string_view text) const
     return IsInside(box) && Crossings(box) == 0;
 }
 
-/// Clips the segment to the box, side by side (Liang and Barsky).
 bool LabelLayout::Crosses(const Segment& segment, const Box& box)
 {
-    const double dx = segment.to.x - segment.from.x;
-    const double dy = segment.to.y - segment.from.y;
-    const double kSides[4][2] = {{-dx, segment.from.x - box.dLeft},
-                                 {dx, box.dRight - segment.from.x},
-                                 {-dy, segment.from.y - box.dTop},
-                                 {dy, box.dBottom - segment.from.y}};
-    double dEnter = 0;
-    double dLeave = 1;
-    for (const auto& [dStep, dRoom] : kSides) {
-        if (dStep < 0) {
-            dEnter = std::max(dEnter, dRoom / dStep);
-        } else if (dStep > 0) {
-            dLeave = std::min(dLeave, dRoom / dStep);
-        } else if (dRoom < 0) {
-            return false;
-        }
-    }
-    return dEnter <= dLeave;
+    return ClipSegment(segment.from, segment.to, {box.dLeft, box.dTop}, {box.dRight, box.dBottom})
+        .has_value();
 }
 
 Pixel NearestPixel(Point at) { return {TruncToInt32(std::round(at.x)), TruncToInt32(std::round(at.y))}; }

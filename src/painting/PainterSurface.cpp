@@ -1,9 +1,10 @@
 #include "painting/PainterSurface.h"
 
+#include "drawing/ClipSegment.h"
 #include "drawing/PixelRuns.h"
 #include "drawing/WordWrap.h"
-#include "lib/text/CodePage.h"
 #include "lib/text/Numbers.h"
+#include "painting/QtText.h"
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
@@ -33,11 +34,6 @@ constexpr std::size_t kLongestText = 10000;
 constexpr double kFarthest = 32000.0;
 
 QColor ToColor(Colour colour) { return QColor(colour.red, colour.green, colour.blue); }
-
-QString ToString(std::string_view text)
-{
-    return QString::fromStdString(Utf8FromCp1252(text.substr(0, kLongestText)));
-}
 
 double ClampToDevice(double place) { return std::clamp(place, -kFarthest, kFarthest); }
 
@@ -130,27 +126,16 @@ void PainterSurface::Line(Pixel from, Pixel to, Colour colour)
     }
 }
 
-/// The part of the line on the surface, cut by one side after the other (by Liang and Barsky).
 void PainterSurface::VectorLine(Pixel from, Pixel to, Colour colour)
 {
     const QPointF start(from.x + 0.5, from.y + 0.5);
-    const QPointF way(static_cast<double>(to.x) - from.x, static_cast<double>(to.y) - from.y);
-    const double steps[] = {-way.x(), way.x(), -way.y(), way.y()};
-    const double rooms[] = {start.x(), m_width - start.x(), start.y(), m_height - start.y()};
-    double enter = 0.0;
-    double leave = 1.0;
-    for (int side = 0; side < 4; ++side) {
-        if (steps[side] < 0) {
-            enter = std::max(enter, rooms[side] / steps[side]);
-        } else if (steps[side] > 0) {
-            leave = std::min(leave, rooms[side] / steps[side]);
-        } else if (rooms[side] < 0) {
-            return;
-        }
-    }
-    if (enter <= leave) {
+    const QPointF end(to.x + 0.5, to.y + 0.5);
+    const auto part = ClipSegment({start.x(), start.y()}, {end.x(), end.y()}, {0, 0},
+                                  {static_cast<double>(m_width), static_cast<double>(m_height)});
+    if (part) {
+        const QPointF way = end - start;
         m_painter.setPen(QPen(ToColor(colour), 1));
-        m_painter.drawLine(QLineF(start + way * enter, start + way * leave));
+        m_painter.drawLine(QLineF(start + way * part->enter, start + way * part->leave));
     }
 }
 
@@ -250,7 +235,8 @@ void PainterSurface::Text(Pixel at, std::string_view text, const Font& font, Col
     if (font.upright) {
         m_painter.rotate(-90);
     }
-    m_painter.drawText(QPointF(0, std::round(font.height * kAscent / kLine)), ToString(text));
+    m_painter.drawText(QPointF(0, std::round(font.height * kAscent / kLine)),
+                       ToQString(text.substr(0, kLongestText)));
     m_painter.restore();
 }
 
@@ -258,7 +244,7 @@ std::int32_t PainterSurface::WrappedText(const PixelRect& box, std::string_view 
                                          Colour colour)
 {
     const QFontMetricsF metrics(DeviceFont(font), m_painter.device());
-    const auto measure = [&](std::string_view piece) { return metrics.horizontalAdvance(ToString(piece)); };
+    const auto measure = [&](std::string_view piece) { return metrics.horizontalAdvance(ToQString(piece)); };
     std::int32_t used = 0;
     for (const std::string_view line :
          WrapWords(text.substr(0, kLongestText), static_cast<double>(box.right) - box.left, measure)) {

@@ -1,9 +1,6 @@
 #include "views/FieldSimulationCtrl.h"
 
 #include "drawing/FieldPicture.h"
-#include "painting/PainterSurface.h"
-
-#include <QPainter>
 
 #include <cstdio>
 
@@ -13,17 +10,9 @@ void WriteDot() { std::fputc('.', stderr); }
 
 } // namespace
 
-CFieldSimulationCtrl::CFieldSimulationCtrl(QWidget* parent) : QWidget(parent)
+void CFieldSimulationCtrl::Paint(Surface& surface)
 {
-    setAttribute(Qt::WA_OpaquePaintEvent);
-}
-
-void CFieldSimulationCtrl::paintEvent(QPaintEvent*)
-{
-    if (m_telescope == nullptr) {
-        return;
+    if (m_telescope != nullptr) {
+        DrawFieldPicture(surface, m_simulation.Table(*m_telescope, WriteDot));
     }
-    QPainter painter(this);
-    PainterSurface surface(painter, width(), height());
-    DrawFieldPicture(surface, m_simulation.Table(*m_telescope, WriteDot));
 }

@@ -4,25 +4,17 @@
 #include "drawing/SummaryPicture.h"
 #include "lib/text/Language.h"
 #include "model/analysis/Summary.h"
-#include "painting/PainterSurface.h"
-
-#include <QPainter>
-#include <QPrinter>
 
 CLeftView::CLeftView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, parent) { setObjectName("leftView"); }
 
-void CLeftView::paintEvent(QPaintEvent*)
+void CLeftView::Paint(Surface& surface)
 {
-    QPainter painter(this);
-    PainterSurface surface(painter, width(), height());
     PaintSummary(surface, *m_document.active_record,
                  {m_document.field_diameter_100, m_document.field_angle_100}, g_nLanguage);
 }
 
-void CLeftView::OnPrint(QPrinter& printer)
+void CLeftView::PaintPage(Surface& surface)
 {
-    QPainter painter(&printer);
-    PainterSurface surface(painter, printer.width(), printer.height());
     PaintSummary(surface, *m_document.active_record,
                  {m_document.field_diameter_100, m_document.field_angle_100}, g_nLanguage, kPaperFontHeight);
 }

@@ -11,8 +11,8 @@ public:
 
     /// Twice the width that it is asked for: labels and values need about 400 pixels.
     static int CreationWidth(int asked) { return 2 * asked; }
-    void OnPrint(QPrinter& printer) override;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void Paint(Surface& surface) override;
+    void PaintPage(Surface& surface) override;
 };

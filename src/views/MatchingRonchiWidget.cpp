@@ -2,9 +2,6 @@
 
 #include "document/OrrevaDoc.h"
 #include "drawing/RonchiPicture.h"
-#include "painting/PainterSurface.h"
-
-#include <QPainter>
 
 #include <ctime>
 
@@ -18,18 +15,15 @@ constexpr int kHeight = 680;
 } // namespace
 
 CMatchingRonchiWidget::CMatchingRonchiWidget(COrrevaDoc& doc, QWidget* parent)
-    : QWidget(parent), m_document(doc), m_grating(doc.active_record->GetRonchiGrating()),
+    : CPictureWidget(parent), m_document(doc), m_grating(doc.active_record->GetRonchiGrating()),
       m_constant(doc.active_record->GetRonchiConstant())
 {
     setProperty("controlId", kSimulationControl);
-    setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(kWidth, kHeight);
 }
 
-void CMatchingRonchiWidget::paintEvent(QPaintEvent*)
+void CMatchingRonchiWidget::Paint(Surface& surface)
 {
-    QPainter painter(this);
-    PainterSurface surface(painter, width(), height());
     DrawRonchiPicture(surface, *m_document.active_record, m_grating, m_constant,
                       static_cast<std::uint32_t>(std::time(nullptr)));
 }

@@ -3,7 +3,7 @@
 #include "document/OrrevaDoc.h"
 #include "drawing/MirrorPanelPicture.h"
 
-void CMirrorPanel::Paint(Surface& surface, Colour background, Colour text)
+void CMirrorPanel::PaintPanel(Surface& surface, Colour background, Colour text)
 {
     PaintMirrorPanel(surface, *m_document.active_record, background, text);
 }

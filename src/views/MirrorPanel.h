@@ -10,5 +10,5 @@ public:
     using CSidePanel::CSidePanel;
 
 protected:
-    void Paint(Surface& surface, Colour background, Colour text) override;
+    void PaintPanel(Surface& surface, Colour background, Colour text) override;
 };

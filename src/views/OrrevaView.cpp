@@ -4,12 +4,9 @@
 #include "drawing/SectionPicture.h"
 #include "lib/text/Language.h"
 #include "lib/text/Log.h"
-#include "painting/PainterSurface.h"
 
 #include <QCursor>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QPrinter>
 
 namespace {
 
@@ -33,17 +30,10 @@ void COrrevaView::OnDraw(Surface& surface, SectionZoom& view)
     PaintSection(surface, view, *m_document.active_record, m_document, pointer, g_nLanguage);
 }
 
-void COrrevaView::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    PainterSurface surface(painter, width(), height());
-    OnDraw(surface, m_zoom);
-}
+void COrrevaView::Paint(Surface& surface) { OnDraw(surface, m_zoom); }
 
-void COrrevaView::OnPrint(QPrinter& printer)
+void COrrevaView::PaintPage(Surface& surface)
 {
-    QPainter painter(&printer);
-    PainterSurface surface(painter, printer.width(), printer.height());
     SectionZoom onPaper = m_zoom; // the paper's size is none of the screen's business
     OnDraw(surface, onPaper);
 }

@@ -3,8 +3,6 @@
 #include "drawing/SectionZoom.h"
 #include "views/Pane.h"
 
-class Surface;
-
 /// The right pane: the cross-section, its zoom, and the rays that follow the mouse.
 class COrrevaView : public CPane {
     Q_OBJECT
@@ -15,12 +13,12 @@ public:
     /// Takes "Show Secondary without Offset" and does nothing with it: the command works only while the
     /// summary is the active pane.
     bool OnCommand(std::int32_t id) override;
-    void OnPrint(QPrinter& printer) override;
 
     const SectionZoom& Zoom() const { return m_zoom; }
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void Paint(Surface& surface) override;
+    void PaintPage(Surface& surface) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

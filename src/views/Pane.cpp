@@ -1,21 +1,30 @@
 #include "views/Pane.h"
 
-#include <QEvent>
+#include "painting/PainterSurface.h"
 
-CPane::CPane(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), m_document(doc)
+#include <QEvent>
+#include <QPainter>
+#include <QPrinter>
+
+CPane::CPane(COrrevaDoc& doc, QWidget* parent) : CPictureWidget(parent), m_document(doc)
 {
     setFocusPolicy(Qt::StrongFocus);
-    // A picture covers its pane whole; erasing it first would flicker.
-    setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(1, 1);
 }
 
 bool CPane::OnCommand(std::int32_t) { return false; }
+
+void CPane::OnPrint(QPrinter& printer)
+{
+    QPainter painter(&printer);
+    PainterSurface surface(painter, printer.width(), printer.height());
+    PaintPage(surface);
+}
 
 bool CPane::event(QEvent* event)
 {
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress) {
         emit Activated(this);
     }
-    return QWidget::event(event);
+    return CPictureWidget::event(event);
 }

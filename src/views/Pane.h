@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "views/PictureWidget.h"
 
 #include <cstdint>
 
@@ -9,7 +9,7 @@ class QPrinter;
 
 /// One of the two panes of the main window. The active pane is the one that commands see first and that
 /// printing takes; it becomes active by a click or by the keyboard's focus.
-class CPane : public QWidget {
+class CPane : public CPictureWidget {
     Q_OBJECT
 
 public:
@@ -18,13 +18,15 @@ public:
     /// A chance to take a command before the document does; true ends its way here.
     virtual bool OnCommand(std::int32_t id);
     /// One page on paper.
-    virtual void OnPrint(QPrinter& printer) = 0;
+    void OnPrint(QPrinter& printer);
 
 signals:
     void Activated(CPane* pane);
 
 protected:
     bool event(QEvent* event) override;
+    /// The page on a surface of the paper's size, in pixels.
+    virtual void PaintPage(Surface& surface) = 0;
     // A pane looks the same with and without the focus. The toolkit would repaint it, and a repaint reads the
     // record, which a dialog that has just taken the focus may not have filled yet.
     void focusInEvent(QFocusEvent*) override {}

@@ -132,10 +132,8 @@ CResultList::CResultList(QWidget* parent) : QTreeView(parent), m_results(new Res
 void CResultList::SetColumns(std::span<const ListColumn> columns, int language)
 {
     m_results->SetColumns(columns, language);
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        header()->resizeSection(static_cast<int>(i), columns[i].width);
-    }
     m_sizedByUser = false;
+    FitColumns();
 }
 
 void CResultList::SetRows(const ListRows& rows)
@@ -144,15 +142,17 @@ void CResultList::SetRows(const ListRows& rows)
                     [rows](int i) { return rows[rows.size() - 1 - static_cast<std::size_t>(i)]; });
 }
 
-/// The widths that columns start with suit most rows; room is made for longer ones, until the user resizes.
-void CResultList::WidenColumns()
+/// The widths that columns come with suit most rows; room is made for longer ones and for headings, as long
+/// as they are shown and until the user resizes.
+void CResultList::FitColumns()
 {
     if (m_sizedByUser) {
         return;
     }
     for (int column = 0; column < m_results->columnCount(); ++column) {
-        header()->resizeSection(column, std::max({columnWidth(column), sizeHintForColumn(column),
-                                                  header()->sectionSizeHint(column)}));
+        const int usual = m_results->Columns()[static_cast<std::size_t>(column)].width;
+        header()->resizeSection(
+            column, std::max({usual, sizeHintForColumn(column), header()->sectionSizeHint(column)}));
     }
     m_sizedByUser = false;
 }
@@ -160,7 +160,7 @@ void CResultList::WidenColumns()
 void CResultList::SetComputedRows(int count, std::function<ListRow(int)> row)
 {
     m_results->SetRows(count, std::move(row));
-    WidenColumns();
+    FitColumns();
 }
 
 int CResultList::RowCount() const { return m_results->Count(); }

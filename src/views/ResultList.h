@@ -18,7 +18,7 @@ class CResultList : public QTreeView {
 public:
     explicit CResultList(QWidget* parent = nullptr);
 
-    /// Replaces all columns; widths are pixels, and grow for longer texts. The rows are emptied.
+    /// Replaces all columns; widths are pixels at least, and grow for longer texts. The rows are emptied.
     void SetColumns(std::span<const ListColumn> columns, int language);
     /// Empties the list and inserts each row at its top, so that the last one made is read first.
     void SetRows(const ListRows& rows);
@@ -36,7 +36,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void WidenColumns();
+    void FitColumns();
 
     ResultModel* m_results;
     bool m_sizedByUser = false; ///< a width is no longer ours

@@ -1,9 +1,5 @@
 #include "views/SidePanel.h"
 
-#include "painting/PainterSurface.h"
-
-#include <QPainter>
-
 namespace {
 
 constexpr int kPanelControl = 4096;
@@ -17,16 +13,14 @@ Colour ToColour(const QColor& color)
 
 } // namespace
 
-CSidePanel::CSidePanel(COrrevaDoc& doc, QWidget* parent) : QWidget(parent), m_document(doc)
+CSidePanel::CSidePanel(COrrevaDoc& doc, QWidget* parent) : CPictureWidget(parent), m_document(doc)
 {
     setProperty("controlId", kPanelControl);
     setMinimumHeight(kLeastHeight);
 }
 
-void CSidePanel::paintEvent(QPaintEvent*)
+void CSidePanel::Paint(Surface& surface)
 {
-    QPainter painter(this);
-    PainterSurface surface(painter, width(), height());
-    Paint(surface, ToColour(palette().color(QPalette::Window)),
-          ToColour(palette().color(QPalette::WindowText)));
+    PaintPanel(surface, ToColour(palette().color(QPalette::Window)),
+               ToColour(palette().color(QPalette::WindowText)));
 }

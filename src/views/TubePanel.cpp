@@ -4,7 +4,7 @@
 #include "drawing/TubePanelPicture.h"
 #include "lib/text/Language.h"
 
-void CTubePanel::Paint(Surface& surface, Colour background, Colour text)
+void CTubePanel::PaintPanel(Surface& surface, Colour background, Colour text)
 {
     PaintTubePanel(surface, *m_document.active_record, g_nLanguage, background, text);
 }

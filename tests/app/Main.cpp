@@ -1,3 +1,5 @@
+#include "app/ProgramStyle.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -18,5 +20,6 @@ int main(int argc, char** argv)
 
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
+    QApplication::setStyle(new CProgramStyle);
     return RUN_ALL_TESTS();
 }

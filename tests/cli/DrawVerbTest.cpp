@@ -122,6 +122,32 @@ TEST_F(DrawVerb, WritesVectorForms)
     EXPECT_NE(std::string::npos, pdf.rfind("%%EOF"));
 }
 
+TEST_F(DrawVerb, AnSvgIsAsLargeAsAskedForAtTheUsualResolution)
+{
+    options.size = {960, 480}; // 10 by 5 inches of 96 pixels
+    ASSERT_EQ(0, Draw("section", folder / "a.svg"));
+    const std::string svg = folder.Read("a.svg");
+    EXPECT_NE(std::string::npos, svg.find("width=\"254mm\" height=\"127mm\""));
+    EXPECT_NE(std::string::npos, svg.find("viewBox=\"0 0 960 480\""));
+}
+
+TEST_F(DrawVerb, VectorFormsHaveTheDesignsTitle)
+{
+    record.SetTitle("H\xF6he & <8\"");
+    ASSERT_EQ(0, Draw("summary", folder / "a.svg"));
+    EXPECT_NE(std::string::npos, folder.Read("a.svg").find("<title>H\xC3\xB6he &amp; &lt;8"));
+    record.SetTitle("\xC4\x62"); // in UTF-16 00C4 0062
+    ASSERT_EQ(0, Draw("summary", folder / "a.pdf"));
+    EXPECT_NE(std::string::npos, folder.Read("a.pdf").find(std::string("/Title (\xFE\xFF\0\xC4\0b)", 15)));
+}
+
+TEST_F(DrawVerb, APictureOfNoDesignHasTheProgramsName)
+{
+    record.Clear();
+    ASSERT_EQ(0, Draw("polygon", folder / "a.svg"));
+    EXPECT_NE(std::string::npos, folder.Read("a.svg").find("<title>Orreva</title>"));
+}
+
 TEST_F(DrawVerb, WritesTheFileWholeOrNotAtAll)
 {
     const std::string missing = folder / "no such folder/a.png";

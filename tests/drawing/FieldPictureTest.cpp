@@ -34,7 +34,7 @@ TEST(FieldPicture, DrawsARingForEachStepOfTheAngle)
     ASSERT_EQ(250u, rings.size());
     for (std::int32_t i = 0; i < 250; ++i) {
         const auto& ring = rings[static_cast<std::size_t>(i)];
-        EXPECT_EQ((PixelRect{260 - i, 260 - i, 260 + i, 260 + i}), ring.box);
+        EXPECT_EQ((PixelRect{260 - i, 260 - i, 261 + i, 261 + i}), ring.box);
         EXPECT_EQ(2, ring.width);
     }
     EXPECT_EQ((Colour{255, 255, 255}), rings[0].pen);

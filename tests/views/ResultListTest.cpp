@@ -65,6 +65,46 @@ TEST(ResultList, CopiesFromTheTopDownInWhateverOrderRowsWereSelected)
     EXPECT_EQ("first\t1\nthird\t3\nfifth\t5", QGuiApplication::clipboard()->text());
 }
 
+constexpr ListColumn kNarrow[] = {{{"Type", "Typ"}, 30}, {{"A heading of some length", "Wert"}, 10}};
+
+TEST(ResultList, AnEmptyListShowsItsWholeHeadings)
+{
+    CResultList list;
+    list.SetColumns(kNarrow, kEnglish);
+    for (const int column : {0, 1}) {
+        EXPECT_GE(list.columnWidth(column), list.header()->sectionSizeHint(column)) << column;
+    }
+    const QFontMetrics metrics(list.header()->font());
+    EXPECT_GT(list.columnWidth(1), metrics.horizontalAdvance("A heading of some length"));
+}
+
+TEST(ResultList, ColumnsWidenForLongValuesAndShrinkAgainWhenTheyGo)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{std::string(100, 'm'), "1"}});
+    const QFontMetrics metrics(list.font());
+    EXPECT_GT(list.columnWidth(0), metrics.horizontalAdvance(QString(100, 'm')));
+    EXPECT_EQ(150, list.columnWidth(1));
+    list.SetRows({{"short", std::string(60, 'm')}});
+    EXPECT_EQ(280, list.columnWidth(0));
+    EXPECT_GT(list.columnWidth(1), metrics.horizontalAdvance(QString(60, 'm')));
+    list.SetRows({{"short", "1"}});
+    EXPECT_EQ(150, list.columnWidth(1));
+}
+
+TEST(ResultList, AWidthThatTheUserChoseStays)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{"short", "1"}});
+    list.header()->resizeSection(0, 77);
+    list.SetRows({{std::string(100, 'm'), "1"}});
+    EXPECT_EQ(77, list.columnWidth(0));
+    list.SetRows({{"short", "1"}});
+    EXPECT_EQ(77, list.columnWidth(0));
+}
+
 TEST(ResultList, AThousandMillionRowsAreComputedWhenLookedAt)
 {
     int computed = 0;

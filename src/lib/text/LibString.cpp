@@ -84,13 +84,18 @@ void LibString::Format(const char* pszFormat, ...)
 {
     std::va_list args;
     va_start(args, pszFormat);
+    FormatList(pszFormat, args);
+    va_end(args);
+}
+
+void LibString::FormatList(const char* pszFormat, std::va_list args)
+{
     std::va_list counted;
     va_copy(counted, args);
     const FormatSize size = CountFormat(pszFormat, counted);
     va_end(counted);
 
     if (size.bad) {
-        va_end(args);
         Assign((std::string("Fehlerhaftes Zeichen im Format-String: ") + size.badLetter).c_str());
         return;
     }
@@ -98,7 +103,6 @@ void LibString::Format(const char* pszFormat, ...)
     char* const px = static_cast<char*>(std::malloc(size.bytes));
     LIB_ASSERT(px);
     const int thelen = std::vsnprintf(px, size.bytes, size.printable.c_str(), args);
-    va_end(args);
     if (thelen < 0 || static_cast<std::size_t>(thelen) >= size.bytes) {
         SinkLine(pszFormat);
         char text[80];

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <compare>
+#include <cstdarg>
 #include <cstddef>
 #include <cstdint>
 
@@ -57,6 +58,8 @@ public:
     /// gives "Fehlerhaftes Zeichen im Format-String: " and that letter. A result that does not fit the count
     /// ends the program with code 0. The arguments may lie in this string's own text.
     void Format(const char* pszFormat, ...) __attribute__((format(printf, 2, 3)));
+    /// The same with the arguments as a list, which is used up.
+    void FormatList(const char* pszFormat, std::va_list args) __attribute__((format(printf, 2, 0)));
 
     /// Moves the text before the first `cSeparator` (or all of it) into `token`, untrimmed; this string
     /// becomes what stands behind the separator, without leading blanks and tabs.

@@ -4,6 +4,7 @@
 #include "lib/text/FormatText.h"
 #include "lib/text/Language.h"
 #include "lib/text/Numbers.h"
+#include "model/rows/RecordValue.h"
 
 namespace {
 
@@ -23,30 +24,26 @@ struct TubePanelRow {
     std::string (*text)(double mm);
 };
 
-template <double (COrrevaData::*get)()>
-double Get(COrrevaData& record)
-{
-    return (record.*get)();
-}
-
 // Every row but the first has a line on top.
 constexpr TubePanelRow kTubeRows[] = {
-    {{"Lenght:", "Länge:"_cp1252}, Get<&COrrevaData::GetTubeLength>, MillimetresAndInches},
-    {{"Inner Diameter:", "Innendurchmesser:"}, Get<&COrrevaData::GetInsideDiameterHat>, MillimetresAndInches},
+    {{"Lenght:", "Länge:"_cp1252}, RecordValue<&COrrevaData::GetTubeLength>, MillimetresAndInches},
+    {{"Inner Diameter:", "Innendurchmesser:"},
+     RecordValue<&COrrevaData::GetInsideDiameterHat>,
+     MillimetresAndInches},
     {{"Outer Diameter:", "Aussendurchmesser:"}, OuterDiameter, MillimetresAndInches},
-    {{"Tube Thickness:", "Wanddicke:"}, Get<&COrrevaData::GetThicknessHat>, Millimetres},
+    {{"Tube Thickness:", "Wanddicke:"}, RecordValue<&COrrevaData::GetThicknessHat>, Millimetres},
     {{"Distance Tube Rear End to Primary Surface:",
       "Abstand hinteres Tubusende - Oberfläche des Hauptspiegels:"_cp1252},
-     Get<&COrrevaData::GetDistanceBack>,
+     RecordValue<&COrrevaData::GetDistanceBack>,
      Millimetres},
     {{"Distance Tube Front End to Focuser:", "Abstand vorderes Tubusende - Focuser:"},
-     Get<&COrrevaData::GetDistanceFront>,
+     RecordValue<&COrrevaData::GetDistanceFront>,
      Millimetres},
     {{"Distance Focal Plane to Tube:", "Brennebene über Tubus:"_cp1252},
-     Get<&COrrevaData::GetFocuserTotalHeight>,
+     RecordValue<&COrrevaData::GetFocuserTotalHeight>,
      Millimetres},
     {{"Distance Focal optical Axis:", "Brennebene über optischer Achse:"_cp1252},
-     Get<&COrrevaData::GetFocalPlaneHeight>,
+     RecordValue<&COrrevaData::GetFocalPlaneHeight>,
      Millimetres},
 };
 

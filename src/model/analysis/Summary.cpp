@@ -6,6 +6,7 @@
 #include "lib/text/Numbers.h"
 #include "model/record/Formulas.h"
 #include "model/record/OrrevaData.h"
+#include "model/rows/RecordValue.h"
 
 namespace {
 
@@ -27,40 +28,36 @@ struct Line {
     double (*value)(COrrevaData&) = nullptr; ///< null for a heading
 };
 
-template <double (COrrevaData::*getter)()>
-double Read(COrrevaData& record)
-{
-    return (record.*getter)();
-}
-
 using Data = COrrevaData;
 constexpr Line kLines[] = {
     {{"Primary", "Hauptspiegel"}},
-    {{"Diameter:", "Durchmesser:"}, kMmAndInches, Read<&Data::GetMirrorDiameter>},
-    {{"Focal Length:", "Brennweite:"}, kMmAndInches, Read<&Data::GetFocalLength>},
+    {{"Diameter:", "Durchmesser:"}, kMmAndInches, RecordValue<&Data::GetMirrorDiameter>},
+    {{"Focal Length:", "Brennweite:"}, kMmAndInches, RecordValue<&Data::GetFocalLength>},
     {{"Focal Ratio:", "Öffnungsverhältnis:"_cp1252}, "f/%0.2f", FocalRatio},
-    {{"Thickness:", "Dicke:"}, kMmAndInches, Read<&Data::GetMirrorThickness>},
+    {{"Thickness:", "Dicke:"}, kMmAndInches, RecordValue<&Data::GetMirrorThickness>},
     {{"Secondary", "Fangspiegel"}},
     {{"Minor Axis Diameter:", "Durchmesser der kleinen Achse:"},
      kMmAndInches,
-     Read<&Data::GetSecondaryDiameter>},
-    {{"Offset:", "Offset:"}, "%0.2f mm", Read<&Data::GetSecondaryOffset>},
+     RecordValue<&Data::GetSecondaryDiameter>},
+    {{"Offset:", "Offset:"}, "%0.2f mm", RecordValue<&Data::GetSecondaryOffset>},
     {{"Tube", "Tubus"}},
-    {{"Length:", "Länge:"_cp1252}, kMmAndInches, Read<&Data::GetTubeLength>},
-    {{"Diameter:", "Durchmesser:"}, kMmAndInches, Read<&Data::GetInsideDiameterHat>},
-    {{"Tube Thickness:", "Wanddicke:"}, kMm, Read<&Data::GetThicknessHat>},
+    {{"Length:", "Länge:"_cp1252}, kMmAndInches, RecordValue<&Data::GetTubeLength>},
+    {{"Diameter:", "Durchmesser:"}, kMmAndInches, RecordValue<&Data::GetInsideDiameterHat>},
+    {{"Tube Thickness:", "Wanddicke:"}, kMm, RecordValue<&Data::GetThicknessHat>},
     {{"Focuser", "Focuser"}},
-    {{"Diameter:", "Durchmesser:"}, kMmAndInches, Read<&Data::GetFocuserDiameter>},
-    {{"Height:", "Höhe:"_cp1252}, kMm, Read<&Data::GetFocuserHeight>},
-    {{"Extra Height:", "Extra Höhe für Zubehör:"_cp1252}, kMm, Read<&Data::GetFocuserSpare>},
+    {{"Diameter:", "Durchmesser:"}, kMmAndInches, RecordValue<&Data::GetFocuserDiameter>},
+    {{"Height:", "Höhe:"_cp1252}, kMm, RecordValue<&Data::GetFocuserHeight>},
+    {{"Extra Height:", "Extra Höhe für Zubehör:"_cp1252}, kMm, RecordValue<&Data::GetFocuserSpare>},
     {{"Dimensions:", "Maße:"_cp1252}},
-    {{"Focal Plane to Tube:", "Brennebene über Tubus:"_cp1252}, kMm, Read<&Data::GetFocuserTotalHeight>},
+    {{"Focal Plane to Tube:", "Brennebene über Tubus:"_cp1252},
+     kMm,
+     RecordValue<&Data::GetFocuserTotalHeight>},
     {{"Focal Plane to  optical Axis:", "Brennebene über optischer Achse:"_cp1252},
      kMm,
-     Read<&Data::GetFocalPlaneHeight>},
+     RecordValue<&Data::GetFocalPlaneHeight>},
     {{"Primary to Center of Focuser:", "Hauptspiegel hinter OAZ-Centruem:"},
      kMm,
-     Read<&Data::GetPrimaryToFocuser>},
+     RecordValue<&Data::GetPrimaryToFocuser>},
     {{"100% FOV limiting Factors:", "Begrenzende Faktoren des 100% FOV:"}},
 };
 

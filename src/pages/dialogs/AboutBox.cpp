@@ -13,6 +13,7 @@ CAboutBox::CAboutBox(bool germanForm, QWidget* parent)
     m_ui->version->setText(QString("Orreva Version ") + kVersion);
     m_ui->icon->setPixmap(ProgramIcon("orreva").pixmap(64, 64));
     m_ui->formulas->setVisible(germanForm);
+    m_ui->buttons->button(QDialogButtonBox::Ok)->setFocus(); // and not the button before it
     connect(m_ui->formulas, &QPushButton::clicked, this, [] { WinHelp(0, kHelpContext); });
 }
 

@@ -1,6 +1,6 @@
 #include "pages/dialogs/QuickNewDialog.h"
 
-#include "painting/QtText.h"
+#include "pages/sheet/Fields.h"
 
 #include "ui_QuickNewDialog.h"
 
@@ -8,9 +8,9 @@ CQuickNewDialog::CQuickNewDialog(const QuickNewTexts& texts, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::QuickNewDialog>())
 {
     m_ui->setupUi(this);
-    m_ui->title->setText(ToQString(texts.title));
-    m_ui->aperture->setText(ToQString(texts.aperture));
-    m_ui->focalLength->setText(ToQString(texts.focal_length));
+    ShowText(m_ui->title, texts.title);
+    ShowText(m_ui->aperture, texts.aperture);
+    ShowText(m_ui->focalLength, texts.focal_length);
     m_ui->title->selectAll();
 }
 
@@ -18,6 +18,5 @@ CQuickNewDialog::~CQuickNewDialog() = default;
 
 QuickNewTexts CQuickNewDialog::Texts() const
 {
-    return {FromQString(m_ui->title->text()), FromQString(m_ui->aperture->text()),
-            FromQString(m_ui->focalLength->text())};
+    return {TextOf(m_ui->title), TextOf(m_ui->aperture), TextOf(m_ui->focalLength)};
 }

@@ -1,6 +1,7 @@
 #include "pages/optics/ArtificialStarDialog.h"
 
 #include "document/OrrevaDoc.h"
+#include "pages/sheet/Fields.h"
 #include "painting/QtText.h"
 
 #include "ui_ArtificialStarDialog.h"
@@ -10,23 +11,24 @@ CArtificialStarDialog::CArtificialStarDialog(COrrevaDoc& document, QWidget* pare
 {
     m_ui->setupUi(this);
     m_ui->resolutionDistance->viewport()->setBackgroundRole(QPalette::Window); // as a line that only shows
-    m_ui->precision->setText(ToQString(m_texts.Precision()));
+    ShowText(m_ui->precision, m_texts.Precision());
     m_ui->precision->selectAll();
-    m_ui->errorDistance->setText(ToQString(m_texts.DistanceByError()));
-    m_ui->starDiameter->setText(ToQString(m_texts.StarDiameter()));
+    ShowText(m_ui->errorDistance, m_texts.DistanceByError());
+    ShowText(m_ui->starDiameter, m_texts.StarDiameter());
     m_ui->resolutionDistance->setPlainText(ToQString(m_texts.DistanceByResolution()));
-    connect(m_ui->precision, &QLineEdit::textChanged, this, &CArtificialStarDialog::OnChangePrecision);
-    connect(m_ui->starDiameter, &QLineEdit::textChanged, this, &CArtificialStarDialog::OnChangeStarDiameter);
+    BindTyping({m_ui->precision}, [this] { OnChangePrecision(); });
+    BindTyping({m_ui->starDiameter}, [this] { OnChangeStarDiameter(); });
 }
 
 CArtificialStarDialog::~CArtificialStarDialog() = default;
 
-void CArtificialStarDialog::OnChangePrecision(const QString& text)
+void CArtificialStarDialog::OnChangePrecision()
 {
-    m_ui->errorDistance->setText(ToQString(m_texts.TypePrecision(FromQString(text).c_str())));
+    ShowText(m_ui->errorDistance, m_texts.TypePrecision(TextOf(m_ui->precision).c_str()));
 }
 
-void CArtificialStarDialog::OnChangeStarDiameter(const QString& text)
+void CArtificialStarDialog::OnChangeStarDiameter()
 {
-    m_ui->resolutionDistance->setPlainText(ToQString(m_texts.TypeStarDiameter(FromQString(text).c_str())));
+    const std::string diameter = TextOf(m_ui->starDiameter);
+    m_ui->resolutionDistance->setPlainText(ToQString(m_texts.TypeStarDiameter(diameter.c_str())));
 }

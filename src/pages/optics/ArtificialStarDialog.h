@@ -20,8 +20,8 @@ public:
     ~CArtificialStarDialog() override;
 
 private:
-    void OnChangePrecision(const QString& text);
-    void OnChangeStarDiameter(const QString& text);
+    void OnChangePrecision();
+    void OnChangeStarDiameter();
 
     std::unique_ptr<Ui::ArtificialStarDialog> m_ui;
     StarDialogTexts m_texts;

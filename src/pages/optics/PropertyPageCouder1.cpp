@@ -3,7 +3,7 @@
 #include "document/OrrevaDoc.h"
 #include "lib/text/Language.h"
 #include "model/optics/CouderMask.h"
-#include "painting/QtText.h"
+#include "pages/sheet/Fields.h"
 
 #include "ui_PropertyPageCouder1.h"
 
@@ -50,17 +50,17 @@ CPropertyPageCouder1::Mirror CPropertyPageCouder1::ReadMirror()
 
 void CPropertyPageCouder1::ShowFields(const ZoneFields& fields)
 {
-    m_ui->wantedZones->setText(ToQString(fields.wanted_zones));
-    m_ui->centre->setText(ToQString(fields.centre_percent));
-    m_ui->edge->setText(ToQString(fields.edge_width));
+    ShowText(m_ui->wantedZones, fields.wanted_zones);
+    ShowText(m_ui->centre, fields.centre_percent);
+    ShowText(m_ui->edge, fields.edge_width);
 }
 
 ZoneFields CPropertyPageCouder1::TakeFields() const
 {
     ZoneFields fields;
-    fields.wanted_zones = FromQString(m_ui->wantedZones->text());
-    fields.centre_percent = FromQString(m_ui->centre->text());
-    fields.edge_width = FromQString(m_ui->edge->text());
+    fields.wanted_zones = TextOf(m_ui->wantedZones);
+    fields.centre_percent = TextOf(m_ui->centre);
+    fields.edge_width = TextOf(m_ui->edge);
     fields.view.mask_type = Chosen({m_ui->couderMask, m_ui->everestPinstick});
     fields.view.centre_method = Chosen({m_ui->carlin, m_ui->couder, m_ui->texereau});
     fields.view.light_source = Chosen({m_ui->movingSource, m_ui->fixedSource});
@@ -69,9 +69,7 @@ ZoneFields CPropertyPageCouder1::TakeFields() const
 
 void CPropertyPageCouder1::ConnectFields()
 {
-    for (const QLineEdit* const edit : {m_ui->wantedZones, m_ui->centre, m_ui->edge}) {
-        connect(edit, &QLineEdit::textEdited, this, &CPropertyPageCouder1::RebuildRows);
-    }
+    BindTyping({m_ui->wantedZones, m_ui->centre, m_ui->edge}, [this] { RebuildRows(); });
     for (const QRadioButton* const radio : findChildren<QRadioButton*>()) {
         connect(radio, &QRadioButton::clicked, this, &CPropertyPageCouder1::RebuildColumnsAndRows);
     }
@@ -79,18 +77,16 @@ void CPropertyPageCouder1::ConnectFields()
 
 void CPropertyPageCouder1::ConnectResets()
 {
-    const auto bind = [this](const QToolButton* button, QLineEdit* edit, auto proposal) {
-        connect(button, &QToolButton::clicked, this, [this, edit, proposal] {
-            edit->setText(ToQString(proposal()));
-            RebuildColumnsAndRows();
-        });
-    };
-    bind(m_ui->centreReset, m_ui->centre, [] { return ZoneFields().centre_percent; });
-    bind(m_ui->edgeReset, m_ui->edge, [] { return ZoneFields().edge_width; });
-    bind(m_ui->wantedZonesReset, m_ui->wantedZones, [this] {
+    const auto rebuild = [this] { RebuildColumnsAndRows(); };
+    const auto proposedZones = [this] {
         const Mirror mirror = ReadMirror();
         return ProposedZonesText(TakeFields(), mirror.D, mirror.F);
-    });
+    };
+    BindReset(
+        m_ui->centreReset, m_ui->centre, [] { return ZoneFields().centre_percent; }, rebuild);
+    BindReset(
+        m_ui->edgeReset, m_ui->edge, [] { return ZoneFields().edge_width; }, rebuild);
+    BindReset(m_ui->wantedZonesReset, m_ui->wantedZones, proposedZones, rebuild);
 }
 
 void CPropertyPageCouder1::ConnectButtons()
@@ -117,7 +113,7 @@ void CPropertyPageCouder1::RebuildRows()
 {
     const Mirror mirror = ReadMirror();
     const ZoneFields fields = TakeFields();
-    m_ui->optimum->setText(ToQString(OptimumZonesText(fields, mirror.D, mirror.F)));
+    ShowText(m_ui->optimum, OptimumZonesText(fields, mirror.D, mirror.F));
     ShowRows(*m_ui->zones, CalculatedZones(fields, mirror.D, mirror.F));
 }
 

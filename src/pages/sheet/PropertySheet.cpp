@@ -14,6 +14,7 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -58,24 +59,24 @@ CPropertySheet::CPropertySheet(const QString& caption, QWidget* parent) : QDialo
     m_body = new QHBoxLayout;
     m_body->addWidget(m_tabs, 1);
 
-    m_buttonRow = new QHBoxLayout;
-    m_buttonRow->addStretch();
-    m_back = AddButton(tr("< &Back"), "back", &CPropertySheet::OnBack);
-    m_next = AddButton(tr("&Next >"), "next", &CPropertySheet::OnNext);
-    m_finish = AddButton(tr("Finish"), "finish", &CPropertySheet::OnFinish);
-    m_ok = AddButton(tr("OK"), "ok", &CPropertySheet::accept);
-    m_cancel = AddButton(tr("Cancel"), "cancel", &CPropertySheet::reject);
-    m_apply = AddButton(tr("&Apply"), "apply", &CPropertySheet::Apply);
+    m_buttons = new QDialogButtonBox(this);
+    m_back = NewButton(tr("< &Back"), "back");
+    m_next = NewButton(tr("&Next >"), "next");
+    m_finish = NewButton(tr("Finish"), "finish");
+    m_ok = NewButton(tr("OK"), "ok");
+    m_cancel = NewButton(tr("Cancel"), "cancel");
+    m_apply = NewButton(tr("&Apply"), "apply");
+    AddButton(m_ok, QDialogButtonBox::AcceptRole);
+    AddButton(m_cancel, QDialogButtonBox::RejectRole);
+    AddButton(m_apply, QDialogButtonBox::ApplyRole);
     m_apply->setEnabled(false);
-    for (QPushButton* const button : {m_back, m_next, m_finish}) {
-        button->hide();
-    }
     m_ok->setDefault(true);
+    ConnectButtons();
 
     auto* const column = new QVBoxLayout(this);
     column->addWidget(m_heading);
     column->addLayout(m_body, 1);
-    column->addLayout(m_buttonRow);
+    column->addWidget(m_buttons);
     connect(m_tabs, &QTabWidget::currentChanged, this, [this](int index) {
         const QSize before = size();
         Activate(index);
@@ -104,15 +105,38 @@ void CPropertySheet::BindPageKeys()
     bind(Qt::CTRL | Qt::Key_PageUp, -1);
 }
 
-QPushButton* CPropertySheet::AddButton(const QString& text, const char* name,
-                                       void (CPropertySheet::*pressed)())
+/// A button that is not shown yet.
+QPushButton* CPropertySheet::NewButton(const QString& text, const char* name)
 {
     auto* const button = new QPushButton(text, this);
     button->setObjectName(name);
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, pressed);
-    m_buttonRow->addWidget(button);
+    button->hide();
     return button;
+}
+
+void CPropertySheet::AddButton(QPushButton* button, QDialogButtonBox::ButtonRole role)
+{
+    if (!m_buttons->buttons().contains(button)) {
+        m_buttons->addButton(button, role);
+    }
+}
+
+void CPropertySheet::SetAside(QPushButton* button)
+{
+    m_buttons->removeButton(button);
+    button->setParent(this);
+    button->hide(); // or it would be shown with the sheet
+}
+
+void CPropertySheet::ConnectButtons()
+{
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &CPropertySheet::accept);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &CPropertySheet::reject);
+    connect(m_back, &QPushButton::clicked, this, &CPropertySheet::OnBack);
+    connect(m_next, &QPushButton::clicked, this, &CPropertySheet::OnNext);
+    connect(m_finish, &QPushButton::clicked, this, &CPropertySheet::OnFinish);
+    connect(m_apply, &QPushButton::clicked, this, &CPropertySheet::Apply);
 }
 
 void CPropertySheet::AddPage(const QString& title, MakePage make)
@@ -138,9 +162,9 @@ void CPropertySheet::SetWizardMode()
     m_wizard = true;
     m_tabs->tabBar()->hide();
     m_heading->show();
-    for (QPushButton* const button : {m_ok, m_apply}) {
-        button->hide();
-    }
+    SetAside(m_ok);
+    SetAside(m_apply);
+    AddButton(m_back, QDialogButtonBox::ActionRole);
     ShowWizardButtons(kWizardNext);
 }
 
@@ -237,12 +261,15 @@ void CPropertySheet::GrowFor(QWidget* page)
 void CPropertySheet::PutButtonsLast()
 {
     QWidget* last = previousInFocusChain();
-    while (last != this && !TakesTab(last)) {
+    while (last != this && (!TakesTab(last) || m_buttons->isAncestorOf(last))) {
         last = last->previousInFocusChain();
     }
+    m_buttons->setFocusProxy(nullptr); // the box would stand for its first button, before the page
     for (QPushButton* const button : {m_back, m_next, m_finish, m_ok, m_cancel, m_apply}) {
-        setTabOrder(last, button);
-        last = button;
+        if (m_buttons->isAncestorOf(button)) {
+            setTabOrder(last, button);
+            last = button;
+        }
     }
 }
 
@@ -290,17 +317,25 @@ void CPropertySheet::ShowWizardButtons(unsigned buttons)
     const bool finishes = (buttons & kWizardFinish) != 0;
     QPushButton* const forward = finishes ? m_finish : m_next;
     QPushButton* const other = finishes ? m_next : m_finish;
-    m_back->show();
     m_back->setEnabled((buttons & kWizardBack) != 0);
     if (!finishes) {
         m_next->setEnabled((buttons & kWizardNext) != 0);
     }
-    forward->show();
+    AddButton(forward, QDialogButtonBox::ActionRole);
     forward->setDefault(true);
     if (other->hasFocus()) { // else the focus would go on to Cancel
         forward->setFocus();
     }
-    other->hide();
+    SetAside(other);
+    PutButtonsLast();
+}
+
+void CPropertySheet::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) {
+        QTimer::singleShot(0, this, &CPropertySheet::PutButtonsLast); // the box has put them anew by then
+    }
 }
 
 void CPropertySheet::keyPressEvent(QKeyEvent* event)

@@ -3,6 +3,7 @@
 #include "pages/sheet/PropertyPage.h"
 
 #include <QDialog>
+#include <QDialogButtonBox>
 
 #include <functional>
 #include <vector>
@@ -46,6 +47,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     struct Entry {
@@ -53,7 +55,10 @@ private:
         CPropertyPage* page;
     };
 
-    QPushButton* AddButton(const QString& text, const char* name, void (CPropertySheet::*pressed)());
+    QPushButton* NewButton(const QString& text, const char* name);
+    void AddButton(QPushButton* button, QDialogButtonBox::ButtonRole role);
+    void SetAside(QPushButton* button);
+    void ConnectButtons();
     void BindPageKeys();
     void Activate(int index);
     /// How large the sheet may become: the screen without its panels and the window's frame, which is guessed
@@ -73,7 +78,7 @@ private:
     QTabWidget* m_tabs;
     QLabel* m_heading; ///< the page's title where no tab shows it: in the wizard
     QHBoxLayout* m_body;
-    QHBoxLayout* m_buttonRow;
+    QDialogButtonBox* m_buttons; ///< it shows all buttons that it holds; the others are set aside
     QPushButton* m_back;
     QPushButton* m_next;
     QPushButton* m_finish;

@@ -3,11 +3,6 @@
 #include "document/OrrevaDoc.h"
 #include "pages/sheet/Controls.h"
 #include "pages/sheet/HelpStrip.h"
-#include "painting/QtText.h"
-
-#include <QAbstractButton>
-#include <QLineEdit>
-#include <QSignalBlocker>
 
 #include <utility>
 
@@ -32,28 +27,15 @@ void CTelescopePage::BindHelpStrip()
 
 void CTelescopePage::BindData(std::initializer_list<QLineEdit*> edits)
 {
-    for (QLineEdit* const edit : edits) {
-        connect(edit, &QLineEdit::textChanged, this, &CTelescopePage::Changed);
-    }
+    BindTyping(edits, [this] { Changed(); });
 }
 
 void CTelescopePage::BindReset(QAbstractButton* button, QLineEdit* edit, std::function<std::string()> reset)
 {
-    connect(button, &QAbstractButton::clicked, this, [this, edit, reset = std::move(reset)] {
-        ShowText(edit, reset());
-        Changed();
-    });
+    ::BindReset(button, edit, std::move(reset), [this] { Changed(); });
 }
 
 void CTelescopePage::BindReset(QAbstractButton* button, QLineEdit* edit, const NumberField& field)
 {
     BindReset(button, edit, [this, field] { return ResetNumber(Record(), field); });
-}
-
-std::string CTelescopePage::TextOf(const QLineEdit* edit) { return FromQString(edit->text()); }
-
-void CTelescopePage::ShowText(QLineEdit* edit, const std::string& text)
-{
-    const QSignalBlocker quiet(edit);
-    edit->setText(ToQString(text));
 }

@@ -1,15 +1,10 @@
 #pragma once
 
 #include "model/rows/NumberField.h"
+#include "pages/sheet/Fields.h"
 #include "pages/sheet/PropertyPage.h"
 
-#include <functional>
-#include <initializer_list>
-#include <string>
-
 class COrrevaDoc;
-class QAbstractButton;
-class QLineEdit;
 
 /// A page of the telescope sheet. It reads the active record once, when it is built, and computes from its
 /// controls' texts from then on; a page's own class says what it reads again when it comes to the front.
@@ -34,17 +29,12 @@ protected:
     /// Help on the form's own number, for the two pictures of its strip. To be called once the form is set
     /// up.
     void BindHelpStrip();
-    /// Typing into one of the edits marks the page modified and refreshes it.
+    /// Typing into one of the edits is a change of the page's data.
     void BindData(std::initializer_list<QLineEdit*> edits);
-    /// The button shows the text that `reset` makes, and marks the page modified.
+    /// The button shows the text that `reset` makes, which is a change.
     void BindReset(QAbstractButton* button, QLineEdit* edit, std::function<std::string()> reset);
     /// The button puts the record's field back to its default, at once.
     void BindReset(QAbstractButton* button, QLineEdit* edit, const NumberField& field);
-
-    /// What was typed, as the core's text.
-    static std::string TextOf(const QLineEdit* edit);
-    /// Shows a text that the user did not type.
-    static void ShowText(QLineEdit* edit, const std::string& text);
 
     COrrevaDoc& m_document;
 

@@ -2,9 +2,6 @@
 
 #include "model/rows/WantedField.h"
 
-#include <QAbstractButton>
-#include <QLineEdit>
-
 void CWantedFieldPage::OnSetActive()
 {
     CTelescopePage::OnSetActive();
@@ -16,12 +13,14 @@ void CWantedFieldPage::BindWantedField(QLineEdit* millimetres, QLineEdit* degree
     m_wantedField = millimetres;
     m_wantedDegrees = degrees;
     ShowWantedField(ShowNumber(Record(), kWantedField));
-    connect(m_wantedField, &QLineEdit::textChanged, this, &CWantedFieldPage::ShowDegrees);
+    BindTyping({m_wantedField}, [this] { ShowDegrees(); });
     BindData({m_wantedField});
-    connect(reset, &QAbstractButton::clicked, this, [this] {
-        ShowWantedField(ResetNumber(Record(), kWantedField));
-        Changed();
-    });
+    ::BindReset(
+        reset, m_wantedField, [this] { return ResetNumber(Record(), kWantedField); },
+        [this] {
+            ShowDegrees();
+            Changed();
+        });
 }
 
 void CWantedFieldPage::ShowWantedField(const std::string& text)

@@ -1,7 +1,7 @@
 #include "pages/telescope/ComponentDialog.h"
 
 #include "model/analysis/Balance.h"
-#include "painting/QtText.h"
+#include "pages/sheet/Fields.h"
 
 #include "ui_ComponentDialog.h"
 
@@ -10,20 +10,19 @@ CComponentDialog::CComponentDialog(COrrevaData& record, std::size_t row, QWidget
 {
     m_ui->setupUi(this);
     const ComponentTexts texts = ReadComponent(m_record, m_component);
-    m_ui->weight->setText(ToQString(texts.weight));
-    m_ui->balance->setText(ToQString(texts.balance));
+    ShowText(m_ui->weight, texts.weight);
+    ShowText(m_ui->balance, texts.balance);
     m_ui->weight->selectAll();
-    connect(m_ui->resetWeight, &QAbstractButton::clicked, this,
-            [this] { m_ui->weight->setText(ToQString(ResetComponentWeight(m_record, m_component))); });
-    connect(m_ui->resetBalance, &QAbstractButton::clicked, this,
-            [this] { m_ui->balance->setText(ToQString(ResetComponentBalance(m_record, m_component))); });
+    BindReset(m_ui->resetWeight, m_ui->weight,
+              [this] { return ResetComponentWeight(m_record, m_component); });
+    BindReset(m_ui->resetBalance, m_ui->balance,
+              [this] { return ResetComponentBalance(m_record, m_component); });
 }
 
 CComponentDialog::~CComponentDialog() = default;
 
 void CComponentDialog::accept()
 {
-    StoreComponent(m_record, m_component,
-                   {FromQString(m_ui->weight->text()), FromQString(m_ui->balance->text())});
+    StoreComponent(m_record, m_component, {TextOf(m_ui->weight), TextOf(m_ui->balance)});
     QDialog::accept();
 }

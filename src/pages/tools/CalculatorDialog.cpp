@@ -1,6 +1,7 @@
 #include "pages/tools/CalculatorDialog.h"
 
 #include "model/tools/Calculator.h"
+#include "pages/sheet/Fields.h"
 #include "painting/QtText.h"
 
 #include "ui_CalculatorDialog.h"
@@ -18,6 +19,6 @@ void CCalculatorDialog::OnChangeInput()
 {
     m_strInput = FromTextDocument(*m_ui->input->document());
     m_strResult = Calculate(m_strInput).text;
-    m_ui->result->setText(ToQString(m_strResult));
+    ShowText(m_ui->result, m_strResult);
     m_ui->result->setCursorPosition(0); // a long number is read from its first digit
 }

@@ -1,29 +1,29 @@
 #include "pages/tools/InchDialog.h"
 
 #include "model/tools/InchConversion.h"
-#include "painting/QtText.h"
+#include "pages/sheet/Fields.h"
 
 #include "ui_InchDialog.h"
 
 CInchDialog::CInchDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::InchDialog>())
 {
     m_ui->setupUi(this);
-    connect(m_ui->mm, &QLineEdit::textChanged, this, &CInchDialog::OnChangeMm);
-    connect(m_ui->inch, &QLineEdit::textChanged, this, &CInchDialog::OnChangeInch);
+    BindTyping({m_ui->mm}, [this] { OnChangeMm(); });
+    BindTyping({m_ui->inch}, [this] { OnChangeInch(); });
 }
 
 CInchDialog::~CInchDialog() = default;
 
 void CInchDialog::OnChangeMm()
 {
-    m_strMm = FromQString(m_ui->mm->text());
+    m_strMm = TextOf(m_ui->mm);
     m_strMmResult = MmToInchText(m_strMm);
-    m_ui->mmResult->setText(ToQString(m_strMmResult));
+    ShowText(m_ui->mmResult, m_strMmResult);
 }
 
 void CInchDialog::OnChangeInch()
 {
-    m_strInch = FromQString(m_ui->inch->text());
+    m_strInch = TextOf(m_ui->inch);
     m_strInchResult = InchToMmText(m_strInch);
-    m_ui->inchResult->setText(ToQString(m_strInchResult));
+    ShowText(m_ui->inchResult, m_strInchResult);
 }

@@ -2,6 +2,7 @@
 
 #include "lib/text/Numbers.h"
 #include "model/tools/PolygonMeasures.h"
+#include "pages/sheet/Fields.h"
 #include "painting/QtText.h"
 
 #include "ui_PolygonDialog.h"
@@ -13,12 +14,11 @@ CPolygonDialog::CPolygonDialog(QWidget* parent) : QDialog(parent), m_ui(std::mak
         m_ui->type->addItem(ToQString(PolygonTypeName(nType)));
     }
     m_ui->type->setCurrentIndex(kPolygonStartType);
-    m_ui->diameter->setText(kPolygonStartDiameter);
-    m_ui->thickness->setText(kPolygonStartThickness);
+    ShowText(m_ui->diameter, kPolygonStartDiameter);
+    ShowText(m_ui->thickness, kPolygonStartThickness);
     OnChange();
     connect(m_ui->type, &QComboBox::currentIndexChanged, this, &CPolygonDialog::OnChange);
-    connect(m_ui->diameter, &QLineEdit::textChanged, this, &CPolygonDialog::OnChange);
-    connect(m_ui->thickness, &QLineEdit::textChanged, this, &CPolygonDialog::OnChange);
+    BindTyping({m_ui->diameter, m_ui->thickness}, [this] { OnChange(); });
 }
 
 CPolygonDialog::~CPolygonDialog() = default;
@@ -26,8 +26,8 @@ CPolygonDialog::~CPolygonDialog() = default;
 void CPolygonDialog::OnChange()
 {
     m_nType = m_ui->type->currentIndex();
-    m_strDiameter = FromQString(m_ui->diameter->text());
-    m_strThickness = FromQString(m_ui->thickness->text());
+    m_strDiameter = TextOf(m_ui->diameter);
+    m_strThickness = TextOf(m_ui->thickness);
     CopyValues();
     m_ui->m_wndPolygon->update();
 }

@@ -2,7 +2,7 @@
 
 #include "lib/text/Numbers.h"
 #include "model/tools/SectorMeasures.h"
-#include "painting/QtText.h"
+#include "pages/sheet/Fields.h"
 
 #include "ui_SectorDialog.h"
 
@@ -11,22 +11,21 @@ CSectorDialog::CSectorDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_
     m_ui->setupUi(this);
     // The rows come in the language of the form and are sorted by it; what the index means does not follow.
     m_ui->type->model()->sort(0);
-    m_ui->diameter->setText(kSectorStartDiameter);
+    ShowText(m_ui->diameter, kSectorStartDiameter);
     m_ui->diameter->selectAll();
     m_ui->type->setCurrentIndex(kSectorStartType);
-    m_ui->value->setText(kSectorStartValue);
+    ShowText(m_ui->value, kSectorStartValue);
     OnChange();
-    connect(m_ui->diameter, &QLineEdit::textChanged, this, &CSectorDialog::OnChange);
     connect(m_ui->type, &QComboBox::currentIndexChanged, this, &CSectorDialog::OnChange);
-    connect(m_ui->value, &QLineEdit::textChanged, this, &CSectorDialog::OnChange);
+    BindTyping({m_ui->diameter, m_ui->value}, [this] { OnChange(); });
 }
 
 CSectorDialog::~CSectorDialog() = default;
 
 void CSectorDialog::OnChange()
 {
-    m_strDiameter = FromQString(m_ui->diameter->text());
-    m_strValue = FromQString(m_ui->value->text());
+    m_strDiameter = TextOf(m_ui->diameter);
+    m_strValue = TextOf(m_ui->value);
     m_nType = m_ui->type->currentIndex();
     CopyValues();
     m_ui->m_wndSector->update();

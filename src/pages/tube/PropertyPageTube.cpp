@@ -1,6 +1,7 @@
 #include "pages/tube/PropertyPageTube.h"
 
 #include "document/OrrevaDoc.h"
+#include "model/analysis/TubeDesign.h"
 #include "pages/sheet/HelpStrip.h"
 
 CPropertyPageTube::CPropertyPageTube(COrrevaDoc& doc, QWidget* parent)
@@ -21,4 +22,10 @@ void CPropertyPageTube::ShowChange()
     emit Modified();
     m_document.UpdateAllViews();
     emit RecordChanged();
+}
+
+void CPropertyPageTube::BindReset(QAbstractButton* button, QLineEdit* edit, const NumberField& field)
+{
+    ::BindReset(
+        button, edit, [this, field] { return ResetTubeMeasure(Record(), field); }, [this] { ShowChange(); });
 }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "model/rows/NumberField.h"
+#include "pages/sheet/Fields.h"
 #include "pages/sheet/PropertyPage.h"
 
-class COrrevaData;
 class COrrevaDoc;
 
 /// A page of the tube design. Every keystroke goes into the record and shows everywhere at once, so that
@@ -23,6 +24,8 @@ protected:
     void BindTubeHelp();
     /// What every change ends in: the page is marked modified, views and preview are refreshed.
     void ShowChange();
+    /// The button puts the record's measure back to its default, at once.
+    void BindReset(QAbstractButton* button, QLineEdit* edit, const NumberField& field);
 
     COrrevaDoc& m_document;
 };

@@ -2,7 +2,6 @@
 
 #include "document/OrrevaDoc.h"
 #include "model/rows/WantedField.h"
-#include "painting/QtText.h"
 
 #include "ui_PropertyPageTube1.h"
 
@@ -14,37 +13,39 @@ CPropertyPageTube1::CPropertyPageTube1(COrrevaDoc& doc, QWidget* parent)
     ShowMeasures();
     (DesignOf(Record().GetTubeType()) == kSolidTube ? m_ui->solid : m_ui->truss)->setChecked(true);
 
-    for (const QLineEdit* const edit : {m_ui->insideDiameter, m_ui->distanceBack, m_ui->distanceFront}) {
-        connect(edit, &QLineEdit::textEdited, this, &CPropertyPageTube1::Update);
-    }
-    ConnectReset(m_ui->insideDiameterReset, m_ui->insideDiameter, kTubeInsideDiameter);
-    ConnectReset(m_ui->distanceBackReset, m_ui->distanceBack, kTubeDistanceBack);
-    ConnectReset(m_ui->distanceFrontReset, m_ui->distanceFront, kTubeDistanceFront);
-    ConnectWantedField();
+    BindTyping({m_ui->insideDiameter, m_ui->distanceBack, m_ui->distanceFront}, [this] { Update(); });
+    BindReset(m_ui->insideDiameterReset, m_ui->insideDiameter, kTubeInsideDiameter);
+    BindReset(m_ui->distanceBackReset, m_ui->distanceBack, kTubeDistanceBack);
+    BindReset(m_ui->distanceFrontReset, m_ui->distanceFront, kTubeDistanceFront);
+    BindWantedField();
     ConnectDesign();
 }
 
 CPropertyPageTube1::~CPropertyPageTube1() = default;
 
-void CPropertyPageTube1::ConnectWantedField()
+void CPropertyPageTube1::BindWantedField()
 {
-    connect(m_ui->wantedDegrees, &QLineEdit::textEdited, this, [this](const QString& degrees) {
-        m_ui->wantedField->setText(ToQString(WantedFieldMillimetres(Record(), FromQString(degrees))));
+    BindTyping({m_ui->wantedDegrees}, [this] {
+        ShowText(m_ui->wantedField, WantedFieldMillimetres(Record(), TextOf(m_ui->wantedDegrees)));
         Update();
     });
-    connect(m_ui->wantedField, &QLineEdit::textEdited, this, [this] {
+    BindTyping({m_ui->wantedField}, [this] {
         ShowDegrees();
         Update();
     });
-    ConnectReset(m_ui->wantedFieldReset, m_ui->wantedField, kWantedField);
+    BindReset(m_ui->wantedFieldReset, m_ui->wantedField, kWantedField);
     connect(m_ui->wantedFieldReset, &QToolButton::clicked, this, &CPropertyPageTube1::ShowDegrees);
-    connect(m_ui->wantedDegreesReset, &QToolButton::clicked, this, [this] {
-        StoreMoonSizedField(Record());
-        Record().ResetCaches();
-        m_ui->wantedField->setText(ToQString(ShowNumber(Record(), kWantedField)));
-        ShowDegrees();
-        ShowChange();
-    });
+    ::BindReset(
+        m_ui->wantedDegreesReset, m_ui->wantedField,
+        [this] {
+            StoreMoonSizedField(Record());
+            Record().ResetCaches();
+            return ShowNumber(Record(), kWantedField);
+        },
+        [this] {
+            ShowDegrees();
+            ShowChange();
+        });
 }
 
 void CPropertyPageTube1::ConnectDesign()
@@ -60,37 +61,28 @@ void CPropertyPageTube1::ConnectDesign()
     });
 }
 
-void CPropertyPageTube1::ConnectReset(const QToolButton* button, QLineEdit* edit, const NumberField& field)
-{
-    connect(button, &QToolButton::clicked, this, [this, edit, field] {
-        edit->setText(ToQString(ResetTubeMeasure(Record(), field)));
-        ShowChange();
-    });
-}
-
 void CPropertyPageTube1::ShowMeasures()
 {
     const TubeMeasures texts = ReadTubeMeasures(Record());
-    m_ui->insideDiameter->setText(ToQString(texts.inside_diameter));
-    m_ui->distanceBack->setText(ToQString(texts.distance_back));
-    m_ui->distanceFront->setText(ToQString(texts.distance_front));
-    m_ui->wantedField->setText(ToQString(texts.wanted_field));
+    ShowText(m_ui->insideDiameter, texts.inside_diameter);
+    ShowText(m_ui->distanceBack, texts.distance_back);
+    ShowText(m_ui->distanceFront, texts.distance_front);
+    ShowText(m_ui->wantedField, texts.wanted_field);
     ShowDegrees();
 }
 
 void CPropertyPageTube1::ShowDegrees()
 {
-    m_ui->wantedDegrees->setText(
-        ToQString(WantedFieldDegrees(Record(), FromQString(m_ui->wantedField->text()))));
+    ShowText(m_ui->wantedDegrees, WantedFieldDegrees(Record(), TextOf(m_ui->wantedField)));
 }
 
 void CPropertyPageTube1::Update()
 {
     TubeMeasures texts;
-    texts.inside_diameter = FromQString(m_ui->insideDiameter->text());
-    texts.distance_back = FromQString(m_ui->distanceBack->text());
-    texts.distance_front = FromQString(m_ui->distanceFront->text());
-    texts.wanted_field = FromQString(m_ui->wantedField->text());
+    texts.inside_diameter = TextOf(m_ui->insideDiameter);
+    texts.distance_back = TextOf(m_ui->distanceBack);
+    texts.distance_front = TextOf(m_ui->distanceFront);
+    texts.wanted_field = TextOf(m_ui->wantedField);
     StoreTubeMeasures(Record(), texts, m_ui->solid->isChecked() ? kSolidTube : kTrussTube);
     ShowChange();
 }

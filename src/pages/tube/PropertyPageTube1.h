@@ -5,9 +5,6 @@
 
 #include <memory>
 
-class QLineEdit;
-class QToolButton;
-
 namespace Ui {
 class PropertyPageTube1;
 }
@@ -28,9 +25,8 @@ signals:
 private:
     void ShowMeasures();
     void ShowDegrees();
-    void ConnectWantedField();
+    void BindWantedField();
     void ConnectDesign();
-    void ConnectReset(const QToolButton* button, QLineEdit* edit, const NumberField& field);
     /// The step that every change goes through.
     void Update();
 

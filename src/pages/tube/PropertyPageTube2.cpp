@@ -1,7 +1,6 @@
 #include "pages/tube/PropertyPageTube2.h"
 
 #include "model/analysis/TubeDesign.h"
-#include "painting/QtText.h"
 
 #include "ui_PropertyPageTube2.h"
 
@@ -10,16 +9,12 @@ CPropertyPageTube2::CPropertyPageTube2(COrrevaDoc& doc, QWidget* parent)
 {
     m_ui->setupUi(this);
     BindTubeHelp();
-    m_ui->thickness->setText(ToQString(ShowNumber(Record(), kTubeThickness)));
-
-    connect(m_ui->thickness, &QLineEdit::textEdited, this, [this](const QString& text) {
-        StoreWallThickness(Record(), FromQString(text));
+    ShowText(m_ui->thickness, ShowNumber(Record(), kTubeThickness));
+    BindTyping({m_ui->thickness}, [this] {
+        StoreWallThickness(Record(), TextOf(m_ui->thickness));
         ShowChange();
     });
-    connect(m_ui->thicknessReset, &QToolButton::clicked, this, [this] {
-        m_ui->thickness->setText(ToQString(ResetTubeMeasure(Record(), kTubeThickness)));
-        ShowChange();
-    });
+    BindReset(m_ui->thicknessReset, m_ui->thickness, kTubeThickness);
 }
 
 CPropertyPageTube2::~CPropertyPageTube2() = default;

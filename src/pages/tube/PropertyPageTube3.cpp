@@ -14,10 +14,10 @@ CPropertyPageTube3::CPropertyPageTube3(COrrevaDoc& doc, QWidget* parent)
     }
     ShowTruss();
 
-    Connect(m_ui->boxThickness, m_ui->boxThicknessReset, kTrussBoxThickness);
-    Connect(m_ui->boxHeight, m_ui->boxHeightReset, kTrussBoxHeight);
-    Connect(m_ui->cageThickness, m_ui->cageThicknessReset, kTrussCageThickness);
-    Connect(m_ui->cageHeight, m_ui->cageHeightReset, kTrussCageHeight);
+    Bind(m_ui->boxThickness, m_ui->boxThicknessReset, kTrussBoxThickness);
+    Bind(m_ui->boxHeight, m_ui->boxHeightReset, kTrussBoxHeight);
+    Bind(m_ui->cageThickness, m_ui->cageThicknessReset, kTrussCageThickness);
+    Bind(m_ui->cageHeight, m_ui->cageHeightReset, kTrussCageHeight);
     connect(m_ui->trussType, &QComboBox::activated, this, [this](int row) {
         if (StoreTrussChoice(Record(), row)) {
             ShowChange();
@@ -27,36 +27,37 @@ CPropertyPageTube3::CPropertyPageTube3(COrrevaDoc& doc, QWidget* parent)
 
 CPropertyPageTube3::~CPropertyPageTube3() = default;
 
-void CPropertyPageTube3::Connect(QLineEdit* edit, const QToolButton* reset, const NumberField& field)
+void CPropertyPageTube3::Bind(QLineEdit* edit, QAbstractButton* reset, const NumberField& field)
 {
-    connect(edit, &QLineEdit::textEdited, this, &CPropertyPageTube3::Update3);
-    connect(reset, &QToolButton::clicked, this, [this, edit, field] {
-        edit->setText(ToQString(ResetNumber(Record(), field)));
-        ShowGap();
-        ShowChange();
-    });
+    BindTyping({edit}, [this] { Update3(); });
+    ::BindReset(
+        reset, edit, [this, field] { return ResetNumber(Record(), field); },
+        [this] {
+            ShowGap();
+            ShowChange();
+        });
 }
 
 void CPropertyPageTube3::ShowTruss()
 {
     const TrussTexts texts = ReadTruss(Record());
-    m_ui->boxThickness->setText(ToQString(texts.box_thickness));
-    m_ui->boxHeight->setText(ToQString(texts.box_height));
-    m_ui->cageThickness->setText(ToQString(texts.cage_thickness));
-    m_ui->cageHeight->setText(ToQString(texts.cage_height));
+    ShowText(m_ui->boxThickness, texts.box_thickness);
+    ShowText(m_ui->boxHeight, texts.box_height);
+    ShowText(m_ui->cageThickness, texts.cage_thickness);
+    ShowText(m_ui->cageHeight, texts.cage_height);
     m_ui->trussType->setCurrentIndex(TrussChoiceOf(Record().GetTubeType()));
     ShowGap();
 }
 
-void CPropertyPageTube3::ShowGap() { m_ui->gap->setText(ToQString(TrussGapText(Record()))); }
+void CPropertyPageTube3::ShowGap() { ShowText(m_ui->gap, TrussGapText(Record())); }
 
 void CPropertyPageTube3::Update3()
 {
     TrussTexts texts;
-    texts.box_thickness = FromQString(m_ui->boxThickness->text());
-    texts.box_height = FromQString(m_ui->boxHeight->text());
-    texts.cage_thickness = FromQString(m_ui->cageThickness->text());
-    texts.cage_height = FromQString(m_ui->cageHeight->text());
+    texts.box_thickness = TextOf(m_ui->boxThickness);
+    texts.box_height = TextOf(m_ui->boxHeight);
+    texts.cage_thickness = TextOf(m_ui->cageThickness);
+    texts.cage_height = TextOf(m_ui->cageHeight);
     StoreTruss(Record(), texts);
     ShowGap();
     ShowChange();

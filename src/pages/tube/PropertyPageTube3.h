@@ -5,9 +5,6 @@
 
 #include <memory>
 
-class QLineEdit;
-class QToolButton;
-
 namespace Ui {
 class PropertyPageTube3;
 }
@@ -27,7 +24,7 @@ public:
 private:
     void ShowTruss();
     void ShowGap();
-    void Connect(QLineEdit* edit, const QToolButton* reset, const NumberField& field);
+    void Bind(QLineEdit* edit, QAbstractButton* reset, const NumberField& field);
     /// The step that every change of a number goes through.
     void Update3();
 

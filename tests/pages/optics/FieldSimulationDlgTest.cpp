@@ -9,6 +9,8 @@
 
 #include <QPushButton>
 
+#include <numeric>
+
 namespace {
 
 class FieldSimulationDlg : public AppFixture, public testing::WithParamInterface<int> {
@@ -66,6 +68,28 @@ TEST_P(FieldSimulationDlg, ShowsTheFieldWithItsScale)
         EXPECT_EQ(Painted(field, [&](Surface& surface) { DrawFieldPicture(surface, table); }), shown);
         EXPECT_LT(250, shown.pixelColor(260, 260).red()) << "as bright as the axis";
         EXPECT_GT(shown.pixelColor(300, 260).red(), shown.pixelColor(500, 260).red());
+    });
+}
+
+TEST_P(FieldSimulationDlg, TheDiscIs500PixelsWideAroundItsCentre)
+{
+    InDialogOf(command_id::kFieldSimulation, [](QDialog& dialog) {
+        const QImage shown = Shown(Field(dialog));
+        std::vector<int> across;
+        std::vector<int> down;
+        for (int i = 0; i < 514; ++i) { // the labels stand beyond
+            if (shown.pixelColor(i, 260) != Qt::white) {
+                across.push_back(i);
+            }
+            if (shown.pixelColor(260, i) != Qt::white) {
+                down.push_back(i);
+            }
+        }
+        // 250 pixels on either side of the line between the pixels 259 and 260.
+        std::vector<int> disc(500);
+        std::iota(disc.begin(), disc.end(), 10);
+        EXPECT_EQ(disc, across);
+        EXPECT_EQ(disc, down);
     });
 }
 

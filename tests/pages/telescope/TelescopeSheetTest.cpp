@@ -5,6 +5,7 @@
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
 
+#include <QDialogButtonBox>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTabBar>
@@ -324,6 +325,15 @@ TEST_F(TelescopeSheet, TheFirstFieldOfAPageIsSelectedToTypeOverIt)
     });
 }
 
+/// The desktop changes its look.
+void ChangeStyle(CPropertySheet& sheet)
+{
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(&sheet, &change);
+    QCoreApplication::sendEvent(sheet.findChild<QDialogButtonBox*>(), &change);
+    QCoreApplication::processEvents();
+}
+
 TEST_F(TelescopeSheet, TheKeyboardGoesFromTheTabsOverThePageToTheButtons)
 {
     MakeTelescope();
@@ -331,6 +341,7 @@ TEST_F(TelescopeSheet, TheKeyboardGoesFromTheTabsOverThePageToTheButtons)
         // A page that was built behind others, too, is met before the buttons.
         for (const SheetPage index : {kBalance, kRemarks, kPrimary, kTube, kFocuser, kSecondary, kCell}) {
             const CPropertyPage& page = Visit(sheet, index);
+            ChangeStyle(sheet);
             Button(sheet, "apply").setEnabled(true);
             const std::vector<const QWidget*> reached = TabRound(sheet);
             ASSERT_LT(3u, reached.size()) << index;
@@ -343,6 +354,77 @@ TEST_F(TelescopeSheet, TheKeyboardGoesFromTheTabsOverThePageToTheButtons)
                       std::vector<const QWidget*>(buttons, reached.end()))
                 << index;
         }
+    });
+}
+
+/// The texts of the buttons that are seen below the pages, from left to right.
+QStringList ButtonTexts(const CPropertySheet& sheet)
+{
+    std::vector<const QPushButton*> buttons;
+    for (const QPushButton* const button : sheet.findChildren<QPushButton*>()) {
+        if (button->isVisible() && button->property(kControlId).toInt() == 0) { // no page's
+            buttons.push_back(button);
+        }
+    }
+    std::ranges::sort(buttons, {},
+                      [&](const QPushButton* button) { return button->mapTo(&sheet, QPoint()).x(); });
+    QStringList texts;
+    for (const QPushButton* const button : buttons) {
+        texts << button->text();
+    }
+    return texts;
+}
+
+/// The controls that TAB reaches one after the other, beginning with `first`.
+std::vector<const QWidget*> KeysFrom(QWidget& first, int count)
+{
+    first.setFocus();
+    std::vector<const QWidget*> reached{QApplication::focusWidget()};
+    for (int i = 1; i < count; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        reached.push_back(QApplication::focusWidget());
+    }
+    return reached;
+}
+
+TEST_F(TelescopeSheet, ButtonsFromLeftToRight)
+{
+    MakeTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        QCoreApplication::processEvents();
+        const QStringList tabbed{"OK", "Cancel", "&Apply"};
+        EXPECT_EQ(tabbed, ButtonTexts(sheet));
+        ChangeStyle(sheet);
+        EXPECT_EQ(tabbed, ButtonTexts(sheet));
+        EXPECT_TRUE(Button(sheet, "ok").isDefault());
+    });
+}
+
+TEST_F(TelescopeSheet, ButtonsOfTheWizardFromLeftToRight)
+{
+    InSheet(kNewDetailed, [](CMyPropertySheet0& sheet) {
+        QCoreApplication::processEvents();
+        const QStringList forward{"< &Back", "&Next >", "Cancel"};
+        EXPECT_EQ(forward, ButtonTexts(sheet));
+        ChangeStyle(sheet);
+        EXPECT_EQ(forward, ButtonTexts(sheet));
+        EXPECT_TRUE(Button(sheet, "next").isDefault());
+        for (int i = 0; i < 4; ++i) {
+            Press(sheet, "next");
+        }
+        QCoreApplication::processEvents();
+        const QStringList last{"< &Back", "Finish", "Cancel"};
+        EXPECT_EQ(last, ButtonTexts(sheet));
+        ChangeStyle(sheet);
+        EXPECT_EQ(last, ButtonTexts(sheet));
+        EXPECT_TRUE(Button(sheet, "finish").isDefault());
+        Press(sheet, "back");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(forward, ButtonTexts(sheet)) << "on the way back";
+        EXPECT_TRUE(Button(sheet, "next").isDefault());
+        EXPECT_EQ((std::vector<const QWidget*>{&Button(sheet, "back"), &Button(sheet, "next"),
+                                               &Button(sheet, "cancel")}),
+                  KeysFrom(Button(sheet, "back"), 3));
     });
 }
 
