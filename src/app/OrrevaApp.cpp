@@ -3,20 +3,31 @@
 #include "app/HelpPages.h"
 #include "app/MainFrame.h"
 #include "lib/text/CodePage.h"
+#include "lib/text/FormatText.h"
 #include "lib/text/Language.h"
 #include "lib/text/Log.h"
 #include "pages/sheet/Help.h"
+#include "painting/QtText.h"
 #include "views/ProgramIcon.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
+#include <QStatusBar>
+#include <QTimer>
 
 namespace {
 
+constexpr Bilingual kLanguageNotStored{"The language could not be stored in %s.",
+                                       "Die Sprache konnte nicht in %s gespeichert werden."};
+
 constexpr const char* kLanguageEntry = "Settings/Language";
 constexpr int kNoLanguage = 99;
+
+/// The status bar that tells of a page which no browser shows; the frame's, while it stands.
+QStatusBar* g_helpStatus = nullptr;
 
 /// Every help request of the program, the toolkit's own commands too.
 void OpenHelp(long data, unsigned command)
@@ -24,7 +35,12 @@ void OpenHelp(long data, unsigned command)
     LibString line;
     line.Format("COrrevaApp::WinHelp(%ld, %d)", data, static_cast<int>(command));
     LogText(line);
-    QDesktopServices::openUrl(HelpPage(data, command));
+    const QUrl page = HelpPage(data, command, BuiltHelpAddresses(g_nLanguage));
+    const bool opened = QDesktopServices::openUrl(page);
+    const bool missing = page.isLocalFile() && !QFileInfo::exists(page.toLocalFile());
+    if ((!opened || missing) && g_helpStatus != nullptr) {
+        g_helpStatus->showMessage(UnopenedHelpText(page, g_nLanguage));
+    }
 }
 
 } // namespace
@@ -39,6 +55,7 @@ COrrevaApp::COrrevaApp()
 COrrevaApp::~COrrevaApp()
 {
     m_host.Attach(nullptr, nullptr);
+    g_helpStatus = nullptr;
     m_frame.reset();
     m_document.reset();
     m_threadLocale.Set(kEnglish);
@@ -55,15 +72,29 @@ bool COrrevaApp::InitInstance(const QStringList& arguments)
 {
     ChooseLanguage();
     m_document = std::make_unique<COrrevaDoc>(m_host);
+    m_document->KeepCopies(&m_copies);
     m_frame = std::make_unique<CMainFrame>(*m_document, m_threadLocale);
     QObject::connect(m_frame.get(), &CMainFrame::LanguageChosen, m_frame.get(),
                      [this](int language) { OnLanguage(language); });
     m_host.Attach(m_frame.get(), m_document.get());
+    g_helpStatus = m_frame->statusBar();
     if (!ProcessShellCommand(arguments)) {
         return false;
     }
     m_frame->showMaximized();
+    m_frame->Refresh();
+    QTimer::singleShot(0, m_frame.get(), [this] { ShowNews(); });
     return true;
+}
+
+/// What a crash or a failed save left behind is offered once, over the window as it opens always.
+void COrrevaApp::ShowNews()
+{
+    if (const auto copy = m_copies.TakeNews()) {
+        m_document->BeginCommand();
+        m_document->ChooseEarlierDesign(copy->file);
+        m_frame->Refresh();
+    }
 }
 
 void COrrevaApp::ChooseLanguage()
@@ -84,7 +115,7 @@ bool COrrevaApp::ProcessShellCommand(const QStringList& arguments)
 {
     for (const QString& word : arguments) {
         if (!word.startsWith('-')) {
-            return m_document->OpenOldFormat(QFile::encodeName(word).constData());
+            return m_document->OpenByContent(QFile::encodeName(word).constData());
         }
     }
     return true;
@@ -94,6 +125,16 @@ void COrrevaApp::OnLanguage(int language)
 {
     m_host.ShowMessage(language == kGerman ? "Beim nächsten Start wird Orreva Deutsch verwenden."_cp1252
                                            : "Orreva will use English on it's next start.");
-    Profile().setValue(kLanguageEntry, language);
+    QSettings profile = Profile();
+    profile.setValue(kLanguageEntry, language);
+    profile.sync();
+    if (profile.status() == QSettings::NoError) {
+        m_document->Status().Succeed(StatusTopic::Language, {});
+    } else {
+        const std::string file = FromQString(profile.fileName());
+        m_document->Status().Fail(StatusTopic::Language,
+                                  FormatText(kLanguageNotStored.In(g_nLanguage), file.c_str()));
+    }
+    m_document->ShowStatus();
     m_threadLocale.Set(language);
 }

@@ -94,6 +94,13 @@ void COrrevaData::ResetCaches()
 
 bool COrrevaData::HasFile() const { return *file_path.GetText() != 0; }
 
+void COrrevaData::TellStored(void (COrrevaData::*set)(double))
+{
+    if (m_host != nullptr) {
+        m_host->OnStored(set);
+    }
+}
+
 void COrrevaData::CopyTo(COrrevaData& dest) const
 {
     dest.Reset();

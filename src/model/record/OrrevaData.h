@@ -20,6 +20,8 @@ public:
     virtual void SetDocumentTitle(const char* path) = 0;
     virtual void BeginWait() = 0;
     virtual void EndWait() = 0;
+    /// A sheet stored a number through the setter `set`, or put it back to its default.
+    virtual void OnStored(void (COrrevaData::*)(double) /*set*/) {}
 };
 
 /// How a record's design file is written and read, by the path that the record has.
@@ -65,6 +67,8 @@ public:
     bool HasFile() const;
     void SetModified(std::uint8_t value) { modified = value; }
     std::uint8_t IsModified() const { return modified; }
+    /// To be called by who stores what a user typed: see RecordHost::OnStored.
+    void TellStored(void (COrrevaData::*set)(double));
     /// Resets `dest` (with its prompt and its default path), then copies every field that a file holds.
     void CopyTo(COrrevaData& dest) const;
 
