@@ -130,7 +130,7 @@ void CToolWindows::Follow()
 void CToolWindows::OpenIllumination()
 {
     if (m_illuminationWindow == nullptr) {
-        m_illuminationWindow = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").eyepieces, &m_frame);
+        m_illuminationWindow = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").entries, &m_frame);
         connect(m_illuminationWindow, &CIlluminationWindow::MinorAxisWanted, this, [this](double minorAxis) {
             m_whatIfBar.TryValue(&COrrevaData::SetSecondaryDiameter, minorAxis);
         });

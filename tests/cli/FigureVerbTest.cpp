@@ -97,6 +97,16 @@ TEST_F(FigureCommand, TellsTheLineOfAFault)
     EXPECT_EQ(0, Cli(kMirror).status);
 }
 
+TEST_F(FigureCommand, ReadingsMayComeFromAPipe)
+{
+    const std::string readings = "30,1\n60,1\n90,1\n";
+    Write("r.csv", readings);
+    const CliRun file = Cli(kMirror);
+    EXPECT_EQ(0, file.status);
+    EXPECT_EQ(file.out, Cli("figure --diameter 200 --focal-length 1200 --readings -", readings).out);
+    EXPECT_EQ(file.out, Cli("figure --diameter 200 --focal-length 1200 --readings /dev/stdin", readings).out);
+}
+
 TEST_F(FigureCommand, AFileOrMirrorThatIsMissingIsStatusOne)
 {
     EXPECT_EQ(1, Cli(kMirror).status);
