@@ -12,6 +12,7 @@
 #include "lib/text/CodePage.h"
 #include "lib/text/FormatText.h"
 #include "lib/text/Language.h"
+#include "painting/QtText.h"
 #include "windows/CompareWindow.h"
 #include "windows/DesignCheckField.h"
 #include "windows/DesignCheckWindow.h"
