@@ -253,10 +253,10 @@ void CQtHost::ShowIllumination(const IlluminationStops& stops, double wanted)
     QWidget* const owner = Owner();
     if (m_illumination == nullptr || m_illumination->parentWidget() != owner) {
         delete m_illumination;
-        m_illumination = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").eyepieces, owner);
+        m_illumination = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").entries, owner);
     }
     const QString title =
-        m_document == nullptr ? QString() : ToQString(m_document->active_record->GetTitle());
+        m_document == nullptr ? QString() : ToQString(m_document->active_record->GetTitle().GetText());
     m_illumination->ShowDesign(stops, wanted, title);
     m_illumination->show();
     m_illumination->raise();
