@@ -10,6 +10,7 @@
 #include "drawing/SectorPicture.h"
 #include "drawing/SummaryPicture.h"
 #include "drawing/TubePanelPicture.h"
+#include "drawing/WavefrontCharts.h"
 #include "lib/files/FileBytes.h"
 #include "lib/text/Numbers.h"
 #include "painting/PictureFile.h"
@@ -92,6 +93,15 @@ void PaintSecondaryChoicePicture(Surface& surface, const DrawContext& context)
                kLightChart);
 }
 
+void PaintWavefrontPicture(Surface& surface, const DrawContext& context)
+{
+    const WavefrontCurve curve{context.figure, {}};
+    const std::span curves(&curve, context.figure != nullptr ? 1 : 0);
+    const double D = context.record.GetMirrorDiameter();
+    const double wavelength = context.options.figure.wavelength;
+    PaintChart(surface, WavefrontChart(curves, D, wavelength, context.language), kLightChart);
+}
+
 constexpr NamedPicture kPictures[] = {
     {"section", PaintSectionPicture},
     {"summary", PaintSummaryPicture},
@@ -103,6 +113,7 @@ constexpr NamedPicture kPictures[] = {
     {"sector", PaintSectorPicture},
     {"illumination", PaintIlluminationPicture},
     {"secondary-choice", PaintSecondaryChoicePicture},
+    {"wavefront", PaintWavefrontPicture},
 };
 
 /// The design's title; the program's name for a picture of none.

@@ -3,6 +3,7 @@
 #include "cli/ViewOptions.h"
 #include "drawing/Surface.h"
 #include "model/analysis/Summary.h"
+#include "model/optics/Figure.h"
 #include "painting/PictureFile.h"
 
 #include <span>
@@ -21,6 +22,7 @@ struct DrawOptions : ViewOptions {
     double diameter = 0.0;
     double thickness = 0.0;
     double value = 0.0;
+    FigureSettings figure{}; ///< of the wavefront
 };
 
 /// The options that a picture has without any word: the time seeds the patterns, and the calculators have
@@ -33,6 +35,7 @@ struct DrawContext {
     FullField field; ///< the document's figures after its last recalculation
     int language;
     const DrawOptions& options;
+    const Figure* figure = nullptr; ///< of the picture that shows one; null is none
 };
 
 struct NamedPicture {
