@@ -78,7 +78,7 @@ CIlluminationWindow::CIlluminationWindow(std::vector<Eyepiece> eyepieces, QWidge
     new QVBoxLayout(this);
     MakeCharts();
     MakeButtons();
-    resize(860, 680);
+    resize(1000, 720);
     ShowNothing();
 }
 
@@ -108,6 +108,7 @@ void CIlluminationWindow::MakeCharts()
     secondaries->addWidget(m_axesCurves);
     secondaries->addWidget(m_axes);
     secondaries->setStretchFactor(0, 1);
+    secondaries->setSizes({500, 480}); // the table whole
     auto* const tabs = new QTabWidget(this);
     tabs->addTab(secondaries, Shown(kSecondaries));
     tabs->addTab(m_points, Shown(kTable));
