@@ -29,7 +29,7 @@ std::unique_ptr<Browser> g_browser;
 
 AppFixture::AppFixture(int language)
 {
-    qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
+    qputenv("XDG_STATE_HOME", QFile::encodeName(stateFolder.path()));
     g_browser = std::make_unique<Browser>(helpPages);
     QDesktopServices::setUrlHandler("https", g_browser.get(), "Open");
     COrrevaApp::Profile().setValue("Settings/Language", language);

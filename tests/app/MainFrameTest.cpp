@@ -188,7 +188,7 @@ TEST_F(MainFrameGerman, PromptsAndTips)
 TEST_F(MainFrame, EveryCommandStandsInTheMenus)
 {
     for (const Command& command : Commands()) {
-        const bool keyOnly = command.id == command_id::kToolkitSave || command.id == command_id::kHelp;
+        const bool keyOnly = command.id == command_id::kHelp;
         EXPECT_EQ(keyOnly, Action(command.id) == nullptr) << command.id;
     }
 }

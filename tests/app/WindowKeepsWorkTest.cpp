@@ -119,10 +119,10 @@ TEST_F(WindowKeepsWork, TheMessageComesBackAfterAMenusPrompt)
 TEST_F(WindowKeepsWorkGerman, TheStateIsGerman)
 {
     MakeTelescope();
-    auto& state = *app->Frame().findChild<QLabel*>("state");
-    EXPECT_EQ(QString::fromUtf8("geändert"), state.text());
+    auto& label = *app->Frame().findChild<QLabel*>("state");
+    EXPECT_EQ(QString::fromUtf8("geändert"), label.text());
     Choose(32803);
-    EXPECT_TRUE(state.text().startsWith("gesichert "));
+    EXPECT_TRUE(label.text().startsWith("gesichert "));
 }
 
 TEST_F(WindowKeepsWork, CtrlQClosesByTheSamePrompt)
@@ -377,7 +377,7 @@ TEST_F(WindowKeepsWork, RetryWithoutADebuggerGoesOn)
 TEST_F(WindowKeepsWork, WithinASecondAModifiedDesignHasACopy)
 {
     MakeTelescope();
-    const std::filesystem::path rescue = state.path().toStdString() + "/orreva/rescue";
+    const std::filesystem::path rescue = stateFolder.path().toStdString() + "/orreva/rescue";
     const auto designs = [&rescue] {
         return std::filesystem::exists(rescue)
                    ? std::distance(std::filesystem::directory_iterator(rescue), {})
