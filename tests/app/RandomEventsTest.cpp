@@ -37,7 +37,7 @@ int Setting(const char* name, int usual)
 
 constexpr const char* kTexts[] = {"",    "0",      "1",    "2,5",     "50",     "250",   "1500", "-5",
                                   "abc", "1e300",  "1e-9", "99999",   "1.#INF", "3..4",  "8 mm", "sqrt(2)",
-                                  "0.1", "-1e308", "007",  "nothing", "Größe",  "6*7+1", "20.5", "12"};
+                                  "0.1", "-1e308", "007",  "nothing", "Size",  "6*7+1", "20.5", "12"};
 
 constexpr Qt::Key kKeys[] = {Qt::Key_Tab, Qt::Key_Backtab,  Qt::Key_Space,  Qt::Key_Return, Qt::Key_Escape,
                              Qt::Key_Up,  Qt::Key_Down,     Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Home,
