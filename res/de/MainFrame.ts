@@ -58,6 +58,14 @@
  <message><source>Inch/mm Calculator</source><translation>Zoll Rechner</translation></message>
  <message><source>Polygon Calculator</source><translation>Mehreck Rechner</translation></message>
  <message><source>Sector Calculator</source><translation>Kreisausschnitt Rechner</translation></message>
+ <message><source>Design check	F8</source><translation>Entwurf prüfen	F8</translation></message>
+ <message><source>Compare designs...</source><translation>Entwürfe vergleichen...</translation></message>
+ <message><source>This design beside that of a file</source><comment>prompt</comment><translation>Dieser Entwurf neben dem einer Datei</translation></message>
+ <message><source>Variation...</source><translation>Variation...</translation></message>
+ <message><source>What a parameter does to the values of the design</source><comment>prompt</comment><translation>Was ein Parameter an den Werten des Entwurfs bewirkt</translation></message>
+ <message><source>What is wrong with the design, and what to do</source><comment>prompt</comment><translation>Was am Entwurf nicht stimmt, und was zu tun ist</translation></message>
+ <message><source>Illumination...</source><translation>Ausleuchtung...</translation></message>
+ <message><source>The exact light over the field, and what other secondaries would give</source><comment>prompt</comment><translation>Das genaue Licht über dem Feld, und was andere Fangspiegel ergäben</translation></message>
  <message><source>Orreva Support Forum</source><translation>Orreva Diskussionsforum</translation></message>
  <message><source>&amp;Help Themes</source><translation>&amp;Hilfethemen</translation></message>
  <message><source>List the help themes</source><comment>prompt</comment><translation>Zeigt die Hilfethemen</translation></message>

@@ -4,6 +4,7 @@
 #include "app/MyDialogBar.h"
 #include "app/Printing.h"
 #include "app/ThreadLocale.h"
+#include "app/ToolWindows.h"
 #include "document/Commands.h"
 #include "document/WhatIfBar.h"
 #include "lib/text/Language.h"
@@ -61,6 +62,7 @@ CMainFrame::CMainFrame(COrrevaDoc& doc, const CThreadLocale& locale)
     CreatePanes();
     BindActions();
     BindAccelerators();
+    m_toolWindows = new CToolWindows(*this, *m_ui->statusBar, *m_dialogBar, m_document);
     SetDocumentTitle({});
     m_keeper.setInterval(kKeepEvery);
     connect(&m_keeper, &QTimer::timeout, this, &CMainFrame::KeepLiveCopy);
@@ -294,6 +296,18 @@ void CMainFrame::RunDesktopCommand(int id)
         break;
     case command_id::kAbout:
         CAboutBox(m_threadLocale.IsGerman(), this).exec();
+        break;
+    case command_id::kDesignCheck:
+        m_toolWindows->OpenDesignCheck();
+        break;
+    case command_id::kCompare:
+        m_toolWindows->OpenCompare();
+        break;
+    case command_id::kVariation:
+        m_toolWindows->OpenVariation();
+        break;
+    case command_id::kIllumination:
+        m_toolWindows->OpenIllumination();
         break;
     default:
         break; // the view styles: nothing

@@ -10,6 +10,7 @@
 class CLeftView;
 class CMyDialogBar;
 class CThreadLocale;
+class CToolWindows;
 class COrrevaDoc;
 class COrrevaView;
 class KeyIndicators;
@@ -79,6 +80,7 @@ private:
     CLeftView* m_left = nullptr;
     COrrevaView* m_right = nullptr;
     CMyDialogBar* m_dialogBar = nullptr;
+    CToolWindows* m_toolWindows = nullptr;
     CPane* m_active = nullptr;
     QLabel* m_message = nullptr;
     QLabel* m_trial = nullptr;

@@ -1,10 +1,14 @@
 #include "app/MyDialogBar.h"
 
+#include "lib/text/Numbers.h"
 #include "painting/QtText.h"
 
 #include "ui_MyDialogBar.h"
 
 #include <QKeyEvent>
+
+#include <algorithm>
+#include <cmath>
 
 CMyDialogBar::CMyDialogBar(COrrevaDoc& doc, QWidget* parent)
     : QWidget(parent), m_document(doc), m_ui(std::make_unique<Ui::MyDialogBar>())
@@ -39,6 +43,21 @@ void CMyDialogBar::Follow()
         m_ui->slider->setRange(0, 0);
     }
     m_shows = trial.has_value();
+}
+
+bool CMyDialogBar::TryValue(void (COrrevaData::*set)(double), double value)
+{
+    const auto parameters = BarParameters();
+    const auto parameter = std::ranges::find(parameters, set, &BarParameter::set);
+    if (parameter == parameters.end()) {
+        return false;
+    }
+    Show(SelectBarParameter(m_document, static_cast<std::int32_t>(parameter - parameters.begin())));
+    const QSignalBlocker still(m_ui->slider); // until the document knows where it stands
+    m_ui->slider->setValue(TruncToInt32(std::round(value)));
+    TryBarValue(m_document, value, m_ui->slider->value());
+    emit Changed();
+    return true;
 }
 
 bool CMyDialogBar::eventFilter(QObject* watched, QEvent* event)

@@ -24,8 +24,10 @@ int CheckVerb(const CommandLine& words)
         layout.AppendRow(text, cells, &finding == &findings.front());
     }
     layout.AppendFoot(text, findings.empty());
-    const int status = WriteOutput(OutputPath(words), text);
+    Output output(OutputPath(words));
+    output.Write(text);
+    const int status = output.Finish();
     const bool faulty = std::ranges::any_of(
         findings, [](const DesignFinding& finding) { return finding.severity != Severity::kNote; });
-    return status == kDone && faulty ? kFaults : status;
+    return status == kDone && faulty && !output.IsReaderGone() ? kFaults : status;
 }

@@ -65,6 +65,10 @@ constexpr Command kCommands[] = {
     Opens(id::kInchCalculator, Always, Modal::InchCalculator),
     Opens(id::kPolygonCalculator, Always, Modal::PolygonCalculator),
     Opens(id::kSectorCalculator, Always, Modal::SectorCalculator),
+    Desktop(id::kDesignCheck, Loaded),
+    Desktop(id::kCompare, Loaded),
+    Desktop(id::kVariation, Loaded),
+    Desktop(id::kIllumination, Loaded),
     Desktop(id::kForum, Always),
     Desktop(id::kHandbook, Always),
     Desktop(id::kHelpThemes, Always),
@@ -78,7 +82,7 @@ constexpr Accelerator kAccelerators[] = {
     {"Ctrl+N", id::kNewQuick}, {"Ctrl+E", id::kProperties},    {"Ctrl+O", id::kImportOld},
     {"Ctrl+P", id::kPrint},    {"Ctrl+S", id::kSave},          {"Ctrl+Q", id::kExit},
     {"Ctrl+Z", id::kUndo},     {"Ctrl+Shift+Z", id::kRedo},    {"Ctrl+Y", id::kRedo},
-    {"F1", id::kHelp},         {"Shift+F1", id::kContextHelp},
+    {"F1", id::kHelp},         {"Shift+F1", id::kContextHelp}, {"F8", id::kDesignCheck},
 };
 
 } // namespace

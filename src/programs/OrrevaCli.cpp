@@ -7,6 +7,7 @@
 #include "Version.h"
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <new>
@@ -29,18 +30,21 @@ constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a wind
   orreva-cli compare FILE FILE
   orreva-cli sweep  [TELESCOPE] --vary KEY=FROM:TO:COUNT... [--show NAME]... [--jobs N]
   orreva-cli calc   [EXPRESSION]...
+  orreva-cli figure [TELESCOPE] --readings FILE [--source moving|fixed] [--conic K] [--wavelength NM]
+                    [--format text|csv|json]
   orreva-cli rescue [NUMBER] [-o FILE]
 
 TELESCOPE is a design FILE, or the telescope of the quick New dialog with any of --diameter MM,
 --focal-length MM and --title TEXT; then --set KEY=VALUE, any number of times (VALUE unset: not set).
 
 PAGE is summary, primary, secondary, tube, focuser, cell, eyepieces, balance, foucault, ronchi, star, marks or
-field; all of them without --page. For foucault: --zones N, --centre PERCENT, --edge MM,
+field, all of them without --page; or illumination. For foucault: --zones N, --centre PERCENT, --edge MM,
 --template couder|everest, --method carlin|couder|texereau, --source moving|fixed.
 
 PICTURE is section (--mode, --pointer, --zoom 1..5, --scroll X,Y, --extended, --no-offset, --box-and-cage),
-summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM) or
-sector (--type I --diameter MM --value V).
+summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM),
+sector (--type I --diameter MM --value V), illumination, secondary-choice or wavefront (--readings FILE, --source,
+--conic, --wavelength).
 
 values prints every number of the design, or each NAME, with its unit; check tells what is wrong with it, and
 compare what differs between two. sweep prints a table of designs: one to four --vary, the first running slowest.
@@ -55,10 +59,9 @@ Exit status: 0 done, 1 a file or an expression failed, 2 the command line is not
 errors or warnings.
 )";
 
-int Run(int argc, char** argv)
+int Run(const std::vector<std::string>& arguments)
 {
-    const CommandLine words =
-        ParseCommandLine(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    const CommandLine words = ParseCommandLine(arguments);
     if (words.help || words.version) {
         return WriteOutput("", words.help ? kHelp : std::string("orreva-cli ") + kVersion + "\n");
     }
@@ -92,7 +95,10 @@ int main(int argc, char** argv)
     SetLogSink(nullptr);           // standard error is for the user, in a debug build too
     std::set_terminate(OnUncaught);
     try {
-        return Run(argc, argv);
+        return Run(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    } catch (const UsageFault& fault) {
+        std::fprintf(stderr, "%s\n", fault.line.c_str());
+        return 2;
     } catch (const std::bad_alloc&) {
         return Fail(kNoMemory);
     } catch (const std::length_error&) {

@@ -239,8 +239,8 @@ TEST_F(CommandLine, PicturesComeInThreeForms)
         const char* name;
         const char* start;
     } rows[] = {{"a.png", "\x89PNG"}, {"a.svg", "<?xml"}, {"a.pdf", "%PDF"}};
-    for (const char* const picture :
-         {"section", "summary", "tube-panel", "mirror-panel", "field", "ronchi", "polygon", "sector"}) {
+    for (const char* const picture : {"section", "summary", "tube-panel", "mirror-panel", "field", "ronchi",
+                                      "polygon", "sector", "illumination", "secondary-choice"}) {
         for (const auto& row : rows) {
             const CliRun run =
                 Cli(std::string("draw --size 640x700 --picture ") + picture + " -o " + row.name);

@@ -188,6 +188,16 @@ TEST_F(NumberVerbs, AReaderThatGoesAwayEndsAnyVerbQuietly)
     }
 }
 
+TEST_F(NumberVerbs, CheckWithoutAReaderIsQuietToo)
+{
+    // The reader is gone before the check has begun.
+    const std::string script =
+        std::string("'( sleep 0.3; ") + ORREVA_CLI + " check --diameter 0; echo $? >&2 ) 2>status | true'";
+    ASSERT_EQ(0, std::system(("bash -c " + script).c_str()));
+    std::ifstream status("status");
+    EXPECT_EQ("0\n", std::string(std::istreambuf_iterator<char>(status), {}));
+}
+
 TEST_F(NumberVerbs, WhatANumberVerbDoesNotUnderstandIsNamed)
 {
     const struct {

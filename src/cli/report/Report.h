@@ -43,6 +43,7 @@ using ReportSink = std::function<bool(const std::string& line)>;
 struct ReportPage {
     const char* name;
     void (*write)(const ReportContext& context, const ReportSink& sink);
+    bool only_when_named = false; ///< not among the pages of a report without a choice
 };
 
 /// All pages in the order in which a report without a choice prints them.
@@ -88,6 +89,8 @@ ReportLines RonchiReport(const ReportContext& context);
 ReportLines StarReport(const ReportContext& context);
 ReportLines MarksReport(const ReportContext& context);
 ReportLines FieldReport(const ReportContext& context);
+/// The exact light over the field; one line alone where there is none.
+ReportLines IlluminationReport(const ReportContext& context);
 
 // The report in other forms -------------------------------------------------------------------------------
 

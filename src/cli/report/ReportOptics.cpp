@@ -2,6 +2,7 @@
 
 #include "model/optics/CentreMarks.h"
 #include "model/optics/FieldSimulation.h"
+#include "model/optics/IlluminationCurve.h"
 #include "model/optics/RonchiTolerance.h"
 #include "model/optics/StarDistance.h"
 
@@ -84,4 +85,13 @@ ReportLines FieldReport(const ReportContext& context)
         lines.push_back(ReportLine(row));
     }
     return lines;
+}
+
+ReportLines IlluminationReport(const ReportContext& context)
+{
+    ReportLines lines;
+    for (const ListRow& row : IlluminationPageRows(ReadIlluminationStops(context.record))) {
+        lines.push_back(ReportLine(row));
+    }
+    return lines.empty() ? ReportLines{kNoIllumination} : lines;
 }

@@ -18,7 +18,7 @@ constexpr ReportPage kPages[] = {
     {"eyepieces", EyepiecesReport},        {"balance", Write<BalanceReport>},
     {"foucault", FoucaultReport},          {"ronchi", Write<RonchiReport>},
     {"star", Write<StarReport>},           {"marks", Write<MarksReport>},
-    {"field", Write<FieldReport>},
+    {"field", Write<FieldReport>},         {"illumination", Write<IlluminationReport>, true},
 };
 
 } // namespace

@@ -75,6 +75,18 @@ double DecimalValue(const char* psz)
     return end == number ? 0.0 : std::strtod(std::string(start, end).c_str(), nullptr);
 }
 
+std::string UnreadTail(const char* psz)
+{
+    const char* const start = SkipWhiteSpace(psz);
+    const char* const number = start + (*start == '-' || *start == '+' ? 1 : 0);
+    const char* const end = DecimalEnd(number);
+    std::string tail = SkipWhiteSpace(end == number ? start : end);
+    while (!tail.empty() && *SkipWhiteSpace(&tail.back()) == 0) {
+        tail.pop_back();
+    }
+    return tail;
+}
+
 std::int32_t IntegerValue(const char* psz)
 {
     const char* const start = SkipWhiteSpace(psz);

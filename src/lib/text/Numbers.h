@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 /// Pi and half of it as all formula code takes them: truncated, and not to be corrected.
 inline constexpr double kPi = 3.1415926535;
@@ -14,6 +15,10 @@ std::int32_t TruncToInt32(double value);
 /// optional exponent, no hexadecimal and no words. Unreadable text is 0; a number too large is HUGE_VAL with
 /// its sign.
 double DecimalValue(const char* psz);
+
+/// What DecimalValue leaves unread: the text behind the number, all of it where there is none. Blanks at its
+/// ends do not count.
+std::string UnreadTail(const char* psz);
 
 /// As `atoi`: white space, sign, digits; ends of the 32-bit range for what does not fit.
 std::int32_t IntegerValue(const char* psz);

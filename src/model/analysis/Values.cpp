@@ -258,6 +258,13 @@ void SettleDesign(COrrevaData& record)
     }
 }
 
+DesignCopy::DesignCopy(const TelescopeFields& fields)
+{
+    static_cast<TelescopeFields&>(m_record) = fields;
+    Recalculate(m_record);
+    m_field = Recalculate(m_record).field;
+}
+
 std::vector<double> ReadDesignValues(const DesignState& design)
 {
     SettleDesign(design.record);

@@ -40,5 +40,16 @@ const DesignValue* FindDesignValue(std::string_view name);
 /// read later. A density that is unset would clear the mirror's weight; a weight that was given stands.
 void SettleDesign(COrrevaData& record);
 
+/// A copy of a design that is recalculated twice: who looks at a design leaves it as it is.
+class DesignCopy {
+public:
+    explicit DesignCopy(const TelescopeFields& fields);
+    DesignState State() { return {m_record, m_field}; }
+
+private:
+    COrrevaData m_record{};
+    FullField m_field;
+};
+
 /// Settles the design and reads all numbers, in the order of the table.
 std::vector<double> ReadDesignValues(const DesignState& design);
