@@ -131,7 +131,8 @@ protected:
 private:
     std::string Completed(const QString& path) const
     {
-        const bool first = selectedNameFilter() == nameFilters().value(0);
+        // The toolkit may tell the choice without the pattern that it hides.
+        const bool first = nameFilters().value(0).startsWith(selectedNameFilter());
         return WithEnding(mask, QFile::encodeName(path).toStdString(), first);
     }
 

@@ -186,6 +186,7 @@ bool COrrevaDoc::OpenByContent(const char* path)
         return OpenOldFormat(path);
     }
     OpenDesign(path);
+    m_host.SetDocumentTitle(active_record->file_path); // at the start the record leaves the title alone
     return true;
 }
 

@@ -32,7 +32,7 @@ constexpr const char* kSchemes[] = {"https", "file"};
 
 AppFixture::AppFixture(int language)
 {
-    qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
+    qputenv("XDG_STATE_HOME", QFile::encodeName(stateFolder.path()));
     g_browser = std::make_unique<Browser>(helpPages);
     for (const char* const scheme : kSchemes) {
         QDesktopServices::setUrlHandler(scheme, g_browser.get(), "Open");

@@ -62,7 +62,7 @@ protected:
     static void TypeOver(QWidget& field, const QString& text);
     static QString Text(const QWidget& parent, int controlId);
 
-    QTemporaryDir state; ///< where copies of designs are kept
+    QTemporaryDir stateFolder; ///< where copies of designs are kept
     TemporaryFolder folder;
     QObject context;
     std::unique_ptr<COrrevaApp> app;

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSlider>
 #include <QWheelEvent>
 
@@ -37,7 +38,7 @@ int Setting(const char* name, int usual)
 
 constexpr const char* kTexts[] = {"",    "0",      "1",    "2,5",     "50",     "250",   "1500", "-5",
                                   "abc", "1e300",  "1e-9", "99999",   "1.#INF", "3..4",  "8 mm", "sqrt(2)",
-                                  "0.1", "-1e308", "007",  "nothing", "Größe",  "6*7+1", "20.5", "12"};
+                                  "0.1", "-1e308", "007",  "nothing", "Size",   "6*7+1", "20.5", "12"};
 
 constexpr Qt::Key kKeys[] = {Qt::Key_Tab, Qt::Key_Backtab,  Qt::Key_Space,  Qt::Key_Return, Qt::Key_Escape,
                              Qt::Key_Up,  Qt::Key_Down,     Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Home,
@@ -61,7 +62,7 @@ bool IsOfTheToolkit(const QWidget& dialog)
 }
 
 /// Whether the format has a text for each value that is read back as such: it has none for a NaN or a
-/// negative infinity, an angle bracket, or a long text.
+/// negative infinity, an angle bracket, a carriage return, or a long text.
 bool HasItsText(const COrrevaData& record)
 {
     constexpr std::size_t kLongest = 1000;
@@ -71,7 +72,7 @@ bool HasItsText(const COrrevaData& record)
         }
         const auto* const text = std::get_if<TextField>(&field.field);
         const std::string_view value = text != nullptr ? (record.*text->place).GetText() : "";
-        return value.size() < kLongest && value.find('<') == std::string_view::npos;
+        return value.size() < kLongest && value.find_first_of("<\r") == std::string_view::npos;
     });
 }
 

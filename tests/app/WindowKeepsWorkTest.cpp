@@ -34,9 +34,15 @@ protected:
     QString Field(const char* name) const { return app->Frame().findChild<QLabel*>(name)->text(); }
     QString Message() const { return Field("message"); }
 
-    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) const
+    /// After a dialog the window has to be made the active one again.
+    void Activate() const
     {
         app->Frame().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&app->Frame()));
+    }
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) const
+    {
+        Activate();
         QTest::keyClick(&app->Frame(), key, modifiers);
     }
     /// Drops files on a widget of the window; whether it took them.
@@ -82,7 +88,7 @@ TEST_F(WindowKeepsWork, SaysWhatWasWrittenUntilTheNextCommand)
     MakeTelescope();
     EXPECT_EQ("modified", Field("state"));
     Press(Qt::Key_S);
-    EXPECT_EQ("Written: " + QString::fromStdString(folder / "noname.orreva.xml"), Message());
+    EXPECT_EQ("Written: " + folder / "noname.orreva.xml", Message().toStdString());
     EXPECT_TRUE(Field("state").startsWith("saved ")) << Field("state").toStdString();
     Choose(32786);
     EXPECT_EQ("", Message());
@@ -119,20 +125,21 @@ TEST_F(WindowKeepsWork, TheMessageComesBackAfterAMenusPrompt)
 TEST_F(WindowKeepsWorkGerman, TheStateIsGerman)
 {
     MakeTelescope();
-    auto& state = *app->Frame().findChild<QLabel*>("state");
-    EXPECT_EQ(QString::fromUtf8("geändert"), state.text());
+    auto& label = *app->Frame().findChild<QLabel*>("state");
+    EXPECT_EQ(QString::fromUtf8("geändert"), label.text());
     Choose(32803);
-    EXPECT_TRUE(state.text().startsWith("gesichert "));
+    EXPECT_TRUE(label.text().startsWith("gesichert "));
 }
 
 TEST_F(WindowKeepsWork, CtrlQClosesByTheSamePrompt)
 {
     MakeTelescope();
+    Activate();
     InNextDialog<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ("Save noname.orreva.xml?", box.text());
         QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
     });
-    Press(Qt::Key_Q);
+    QTest::keyClick(&app->Frame(), Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(app->Frame().isVisible());
     EXPECT_FALSE(Document().HasFile() && Record().IsModified());
 }
@@ -181,11 +188,10 @@ TEST_F(WindowKeepsWork, ANameToSaveGetsItsEndingBeforeAFileIsReplaced)
             EXPECT_TRUE(box.text().contains("f4.5.orreva.xml")) << box.text().toStdString();
             QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
         });
-        QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save),
-                          Qt::LeftButton);
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
     });
     Choose(32804);
-    EXPECT_EQ("Written: " + QString::fromStdString(folder / "f4.5.orreva.xml"), Message());
+    EXPECT_EQ("Written: " + folder / "f4.5.orreva.xml", Message().toStdString());
     EXPECT_FALSE(folder.Read("f4.5.orreva.xml~").empty()) << "it was not this run's file";
     EXPECT_EQ(2, folder.Count());
 }
@@ -289,6 +295,7 @@ TEST_F(WindowKeepsWork, TheStatusBarSaysWhatIsTried)
     MakeTelescope();
     auto* const list = FindControl<QComboBox>(&app->Frame(), 1026);
     auto* const slider = FindControl<QSlider>(&app->Frame(), 1023);
+    Activate();
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Down);
     EXPECT_EQ("Brennweite 1500 mm (was 1500 mm)", Field("trial"));
@@ -308,6 +315,7 @@ TEST_F(WindowKeepsWork, TheWheelChangesOnlyWhatHasTheFocus)
     MakeTelescope();
     auto* const list = FindControl<QComboBox>(&app->Frame(), 1026);
     auto* const slider = FindControl<QSlider>(&app->Frame(), 1023);
+    Activate();
     app->Frame().LeftView().setFocus();
     Wheel(*list, -1);
     EXPECT_EQ(-1, list->currentIndex());
@@ -377,7 +385,7 @@ TEST_F(WindowKeepsWork, RetryWithoutADebuggerGoesOn)
 TEST_F(WindowKeepsWork, WithinASecondAModifiedDesignHasACopy)
 {
     MakeTelescope();
-    const std::filesystem::path rescue = state.path().toStdString() + "/orreva/rescue";
+    const std::filesystem::path rescue = stateFolder.path().toStdString() + "/orreva/rescue";
     const auto designs = [&rescue] {
         return std::filesystem::exists(rescue)
                    ? std::distance(std::filesystem::directory_iterator(rescue), {})
