@@ -50,6 +50,7 @@ auto Uninterrupted(Call call)
 int StartDetached(std::vector<std::string> words)
 {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
         arguments.push_back(word.data());
     }
