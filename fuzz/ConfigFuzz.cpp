@@ -1,4 +1,5 @@
 #include "lib/config/LibConfig.h"
+#include "lib/config/SupportValues.h"
 #include "lib/files/FileBytes.h"
 #include "lib/platform/LibSup.h"
 #include "lib/text/CharTools.h"

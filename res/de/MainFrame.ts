@@ -64,6 +64,8 @@
  <message><source>Variation...</source><translation>Variation...</translation></message>
  <message><source>What a parameter does to the values of the design</source><comment>prompt</comment><translation>Was ein Parameter an den Werten des Entwurfs bewirkt</translation></message>
  <message><source>What is wrong with the design, and what to do</source><comment>prompt</comment><translation>Was am Entwurf nicht stimmt, und was zu tun ist</translation></message>
+ <message><source>Illumination...</source><translation>Ausleuchtung...</translation></message>
+ <message><source>The exact light over the field, and what other secondaries would give</source><comment>prompt</comment><translation>Das genaue Licht über dem Feld, und was andere Fangspiegel ergäben</translation></message>
  <message><source>Orreva Support Forum</source><translation>Orreva Diskussionsforum</translation></message>
  <message><source>&amp;Help Themes</source><translation>&amp;Hilfethemen</translation></message>
  <message><source>List the help themes</source><comment>prompt</comment><translation>Zeigt die Hilfethemen</translation></message>

@@ -4,5 +4,6 @@
 <context>
  <name>MyPropertyPage05</name>
  <message><source>Results</source><translation>Ergebnisse</translation></message>
+ <message><source>"6 points" means the support on nine points.</source><translation>„6 Punkt Spiegelzelle“ meint die Auflage auf neun Punkten.</translation></message>
 </context>
 </TS>

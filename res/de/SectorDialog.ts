@@ -11,5 +11,6 @@
  <message><source>Cutting Length</source><translation>Schnittlänge</translation></message>
  <message><source>Value</source><translation>Wert</translation></message>
  <message><source>Drawing</source><translation>Zeichnung</translation></message>
+ <message><source>The third entry takes an angle, whatever its name. The others are not ready.</source><translation>Der dritte Eintrag nimmt einen Winkel. Die anderen sind noch nicht fertig.</translation></message>
 </context>
 </TS>

@@ -306,6 +306,9 @@ void CMainFrame::RunDesktopCommand(int id)
     case command_id::kVariation:
         m_toolWindows->OpenVariation();
         break;
+    case command_id::kIllumination:
+        m_toolWindows->OpenIllumination();
+        break;
     default:
         break; // the view styles: nothing
     }

@@ -53,8 +53,9 @@ bool CMyDialogBar::TryValue(void (COrrevaData::*set)(double), double value)
         return false;
     }
     Show(SelectBarParameter(m_document, static_cast<std::int32_t>(parameter - parameters.begin())));
+    const QSignalBlocker still(m_ui->slider); // until the document knows where it stands
     m_ui->slider->setValue(TruncToInt32(std::round(value)));
-    SlideBar(m_document, m_ui->slider->value());
+    TryBarValue(m_document, value, m_ui->slider->value());
     emit Changed();
     return true;
 }

@@ -21,8 +21,8 @@ public:
 
     /// Shows none in list and slider while nothing is under trial: a trial may have ended elsewhere.
     void Follow();
-    /// Puts the parameter that `set` stores under trial at a value, as near as the slider comes; false if it
-    /// is none of the seven.
+    /// Puts the parameter that `set` stores under trial at a value, the slider as near to it as it comes;
+    /// false if it is none of the seven.
     bool TryValue(void (COrrevaData::*set)(double), double value);
     /// Keeps the slider, whatever repaints it, from writing to the record.
     void Freeze(bool frozen);

@@ -13,7 +13,9 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
+#include <QStatusBar>
 #include <QTimer>
 
 namespace {
@@ -24,13 +26,21 @@ constexpr Bilingual kLanguageNotStored{"The language could not be stored in %s."
 constexpr const char* kLanguageEntry = "Settings/Language";
 constexpr int kNoLanguage = 99;
 
+/// The status bar that tells of a page which no browser shows; the frame's, while it stands.
+QStatusBar* g_helpStatus = nullptr;
+
 /// Every help request of the program, the toolkit's own commands too.
 void OpenHelp(long data, unsigned command)
 {
     LibString line;
     line.Format("COrrevaApp::WinHelp(%ld, %d)", data, static_cast<int>(command));
     LogText(line);
-    QDesktopServices::openUrl(HelpPage(data, command));
+    const QUrl page = HelpPage(data, command, BuiltHelpAddresses(g_nLanguage));
+    const bool opened = QDesktopServices::openUrl(page);
+    const bool missing = page.isLocalFile() && !QFileInfo::exists(page.toLocalFile());
+    if ((!opened || missing) && g_helpStatus != nullptr) {
+        g_helpStatus->showMessage(UnopenedHelpText(page, g_nLanguage));
+    }
 }
 
 } // namespace
@@ -45,6 +55,7 @@ COrrevaApp::COrrevaApp()
 COrrevaApp::~COrrevaApp()
 {
     m_host.Attach(nullptr, nullptr);
+    g_helpStatus = nullptr;
     m_frame.reset();
     m_document.reset();
     m_threadLocale.Set(kEnglish);
@@ -66,6 +77,7 @@ bool COrrevaApp::InitInstance(const QStringList& arguments)
     QObject::connect(m_frame.get(), &CMainFrame::LanguageChosen, m_frame.get(),
                      [this](int language) { OnLanguage(language); });
     m_host.Attach(m_frame.get(), m_document.get());
+    g_helpStatus = m_frame->statusBar();
     if (!ProcessShellCommand(arguments)) {
         return false;
     }

@@ -11,6 +11,7 @@
 #include "pages/dialogs/QuickNewDialog.h"
 #include "pages/dialogs/RaytracingSettingsDialog.h"
 #include "painting/QtText.h"
+#include "windows/IlluminationWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -244,6 +245,22 @@ bool CQtHost::AskRaytracingSettings(std::uint8_t miss_in_grey)
 bool CQtHost::RunModal(Modal modal)
 {
     return m_document != nullptr && RunModalDialog(modal, *m_document, Owner());
+}
+
+void CQtHost::ShowIllumination(const IlluminationStops& stops, double wanted)
+{
+    // A child of the sheet that runs, which would keep any other window from the user, and gone with it.
+    QWidget* const owner = Owner();
+    if (m_illumination == nullptr || m_illumination->parentWidget() != owner) {
+        delete m_illumination;
+        m_illumination = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").eyepieces, owner);
+    }
+    const QString title =
+        m_document == nullptr ? QString() : ToQString(m_document->active_record->GetTitle());
+    m_illumination->ShowDesign(stops, wanted, title);
+    m_illumination->show();
+    m_illumination->raise();
+    m_illumination->activateWindow();
 }
 
 void CQtHost::ShowStatus(const char* text)

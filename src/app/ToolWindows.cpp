@@ -15,6 +15,7 @@
 #include "windows/CompareWindow.h"
 #include "windows/DesignCheckField.h"
 #include "windows/DesignCheckWindow.h"
+#include "windows/IlluminationWindow.h"
 #include "windows/VariationWindow.h"
 
 #include <QFile>
@@ -123,6 +124,35 @@ void CToolWindows::Follow()
     FollowCheck();
     FollowCompare();
     FollowVariation();
+    FollowIllumination();
+}
+
+void CToolWindows::OpenIllumination()
+{
+    if (m_illuminationWindow == nullptr) {
+        m_illuminationWindow = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").eyepieces, &m_frame);
+        connect(m_illuminationWindow, &CIlluminationWindow::MinorAxisWanted, this, [this](double minorAxis) {
+            m_whatIfBar.TryValue(&COrrevaData::SetSecondaryDiameter, minorAxis);
+        });
+    }
+    BringUp(*m_illuminationWindow);
+    FollowIllumination();
+}
+
+void CToolWindows::FollowIllumination()
+{
+    if (m_illuminationWindow == nullptr || !m_illuminationWindow->isVisible()) {
+        return;
+    }
+    if (!m_document.HasFile()) {
+        m_illuminationWindow->ShowNothing();
+        return;
+    }
+    DesignCopy design(*m_document.active_record);
+    COrrevaData& record = design.State().record;
+    const IlluminationStops stops = ReadIlluminationStops(record);
+    m_illuminationWindow->ShowDesign(stops, record.GetWanted100PercentFow(),
+                                     ToQString(record.GetTitle().GetText()));
 }
 
 void CToolWindows::FollowVariation()

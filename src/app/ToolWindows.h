@@ -7,6 +7,7 @@
 class CDesignCheckField;
 class CCompareWindow;
 class CDesignCheckWindow;
+class CIlluminationWindow;
 class CMainFrame;
 class CMyDialogBar;
 class COrrevaDoc;
@@ -28,6 +29,7 @@ public:
     /// The same with one of the copies that were kept of earlier designs.
     void CompareEarlier();
     void OpenVariation();
+    void OpenIllumination();
 
 private:
     /// Looks at a copy of the design: the record's first readings are its own.
@@ -37,6 +39,7 @@ private:
     void FollowCheck();
     void FollowCompare();
     void FollowVariation();
+    void FollowIllumination();
 
     CMainFrame& m_frame;
     CMyDialogBar& m_whatIfBar;
@@ -45,4 +48,5 @@ private:
     CDesignCheckWindow* m_checkWindow = nullptr;
     CCompareWindow* m_compareWindow = nullptr;
     CVariationWindow* m_variationWindow = nullptr;
+    CIlluminationWindow* m_illuminationWindow = nullptr;
 };

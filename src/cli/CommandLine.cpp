@@ -6,17 +6,15 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
 namespace {
 
 constexpr std::uint32_t kTelescopeVerbs =
-    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck;
+    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck | kFigureVerb;
 constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kCompare | kRescue;
-constexpr std::uint32_t kTableVerbs =
-    kReport | kValues | kSweep | kCompare | kCheck | kRescue; ///< those that print tables in several forms
+constexpr std::uint32_t kTableVerbs = kReport | kValues | kSweep | kCompare | kCheck | kFigureVerb |
+                                      kRescue; ///< those that print tables in several forms
 
 struct VerbName {
     std::string_view name;
@@ -26,7 +24,8 @@ struct VerbName {
 constexpr VerbName kVerbs[] = {{"report", kReport},   {"rays", kRays},     {"draw", kDraw},
                                {"save", kSaveVerb},   {"import", kImport}, {"export", kExport},
                                {"calc", kCalc},       {"values", kValues}, {"sweep", kSweep},
-                               {"compare", kCompare}, {"check", kCheck},   {"rescue", kRescue}};
+                               {"compare", kCompare}, {"check", kCheck},   {"figure", kFigureVerb},
+                               {"rescue", kRescue}};
 
 struct Option {
     std::string_view name;
@@ -51,7 +50,10 @@ constexpr Option kOptions[] = {
     {"--edge", true, kReport},
     {"--template", true, kReport},
     {"--method", true, kReport},
-    {"--source", true, kReport},
+    {"--source", true, kReport | kFigureVerb | kDraw},
+    {"--readings", true, kFigureVerb | kDraw},
+    {"--conic", true, kFigureVerb | kDraw},
+    {"--wavelength", true, kFigureVerb | kDraw},
     {"--only", true, kValues},
     {"--vary", true, kSweep},
     {"--show", true, kSweep},
@@ -167,8 +169,7 @@ void UsageError(const std::string& reason, const std::string& word)
     std::string line = "orreva-cli: " + reason + " " + word;
     std::ranges::replace_if(
         line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
-    std::fprintf(stderr, "%s\n", line.c_str());
-    std::exit(2);
+    throw UsageFault{line};
 }
 
 std::size_t ChoiceOf(const std::string& option, const std::string& value,

@@ -4,6 +4,7 @@
 #include "cli/CommandLine.h"
 #include "cli/DrawVerb.h"
 #include "cli/ExchangeVerbs.h"
+#include "cli/FigureVerb.h"
 #include "cli/Output.h"
 #include "cli/RaysVerb.h"
 #include "cli/RescueVerb.h"
@@ -143,7 +144,8 @@ constexpr PictureOption kPictureOptions[] = {
     {"--mode", "section"},         {"--pointer", "section"},  {"--zoom", "section"},
     {"--scroll", "section"},       {"--extended", "section"}, {"--no-offset", "section"},
     {"--box-and-cage", "section"}, {"--seed", "ronchi"},      {"--type", "polygon", "sector"},
-    {"--thickness", "polygon"},    {"--value", "sector"},
+    {"--thickness", "polygon"},    {"--value", "sector"},     {"--readings", "wavefront"},
+    {"--source", "wavefront"},     {"--conic", "wavefront"},  {"--wavelength", "wavefront"},
 };
 
 void RefuseOptionsOfOthers(const CommandLine& words, std::string_view picture)
@@ -204,7 +206,12 @@ int Draw(const CommandLine& words)
         UsageError("unknown picture", name);
     }
     RefuseOptionsOfOthers(words, name);
-    const DrawOptions options = DrawOptionsOf(words, name);
+    DrawOptions options = DrawOptionsOf(words, name);
+    std::optional<FigureWords> figureWords;
+    if (name == "wavefront") {
+        figureWords = FigureWordsOf(words);
+        options.figure = figureWords->settings;
+    }
     const bool calculator = name == "polygon" || name == "sector";
     const std::string path = OutputPath(words);
     if (!IsPictureFile(path)) {
@@ -217,10 +224,18 @@ int Draw(const CommandLine& words)
         return kFailed;
     }
     const COrrevaDoc& document = terminal.document;
+    std::optional<Figure> figure;
+    if (figureWords) {
+        figure = ReadFigure(*figureWords, *document.active_record);
+        if (!figure) {
+            return kFailed;
+        }
+    }
     const DrawContext context{*document.active_record,
                               {document.field_diameter_100, document.field_angle_100},
                               g_nLanguage,
-                              options};
+                              options,
+                              figure ? &*figure : nullptr};
     return DrawPicture(*picture, context, path) == 0 ? kDone : Fail("cannot write " + path);
 }
 
@@ -278,7 +293,8 @@ struct Entry {
 constexpr Entry kEntries[] = {{kReport, Report},       {kRays, Rays},         {kDraw, Draw},
                               {kSaveVerb, Save},       {kImport, Import},     {kExport, Export},
                               {kCalc, Calc},           {kValues, ValuesVerb}, {kSweep, SweepVerb},
-                              {kCompare, CompareVerb}, {kCheck, CheckVerb},   {kRescue, Rescue}};
+                              {kCompare, CompareVerb}, {kCheck, CheckVerb},   {kFigureVerb, FigureVerb},
+                              {kRescue, Rescue}};
 
 } // namespace
 

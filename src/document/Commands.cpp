@@ -68,6 +68,7 @@ constexpr Command kCommands[] = {
     Desktop(id::kDesignCheck, Loaded),
     Desktop(id::kCompare, Loaded),
     Desktop(id::kVariation, Loaded),
+    Desktop(id::kIllumination, Loaded),
     Desktop(id::kForum, Always),
     Desktop(id::kHandbook, Always),
     Desktop(id::kHelpThemes, Always),

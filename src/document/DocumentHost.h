@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 
+struct IlluminationStops;
 struct RescueCopy;
 
 /// What a file dialog shows: a filter in pipe notation ("Text|*.ext|...||"), the ending that a name without
@@ -61,6 +62,9 @@ public:
     virtual bool AskRaytracingSettings(std::uint8_t miss_in_grey) = 0;
     /// Runs a sheet or dialog; false if it ended with Cancel.
     virtual bool RunModal(Modal modal) = 0;
+    /// Shows the curve of the exact illumination beside the dialog that runs; `wanted` is the wanted field in
+    /// mm.
+    virtual void ShowIllumination(const IlluminationStops& /*stops*/, double /*wanted*/) {}
     /// The message of the status bar from now on (code page 1252), empty for none. The bar's other fields the
     /// desktop reads at each refresh: StateText and BarTrialText.
     virtual void ShowStatus(const char* /*text*/) {}

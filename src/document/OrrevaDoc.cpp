@@ -328,6 +328,14 @@ void COrrevaDoc::OnTubeProperties()
     NoteStep(kStepTube);
 }
 
+void COrrevaDoc::StoreReadings(const ReadingBook& book)
+{
+    if (readings.Change(book)) {
+        main_record.SetModified(1);
+        UpdateAllViews();
+    }
+}
+
 void COrrevaDoc::OnCentreMarks() { m_host.ShowMessage(CentreMarksMessage(*active_record).c_str()); }
 
 void COrrevaDoc::OnRaytracingSettings()

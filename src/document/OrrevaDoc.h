@@ -3,6 +3,7 @@
 #include "document/BarTrial.h"
 #include "document/DesignFiles.h"
 #include "document/DocumentHost.h"
+#include "document/FoucaultReadings.h"
 #include "document/History.h"
 #include "document/StatusLine.h"
 #include "model/record/OrrevaData.h"
@@ -129,6 +130,10 @@ public:
     BarParams bar_params{};
     std::int32_t bar_position = 0;        ///< where the bar's slider stands
     std::optional<RecordState> bar_start; ///< the record before the trial, as long as nothing else changed it
+    FoucaultReadings readings; ///< of the knife edge, kept beside the design
+
+    /// Takes another book of readings over, as the design's own change.
+    void StoreReadings(const ReadingBook& book);
 
 private:
     void ToggleRayMode(std::uint8_t ViewSwitches::*mode);

@@ -229,7 +229,7 @@ void RescueCopies::Remove(const std::string& id) const
 bool RescueCopies::IsRunning(const std::string& id) const
 {
     const Descriptor lock(open(FileOf(id, kLockEnding).c_str(), O_RDONLY | O_CLOEXEC));
-    return lock && flock(lock.Number(), LOCK_SH | LOCK_NB) != 0;
+    return lock && flock(lock.Number(), LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 std::vector<RescueCopies::Entry> RescueCopies::Entries() const
@@ -274,6 +274,7 @@ std::vector<RescueCopy> RescueCopies::List() const
 
 std::optional<RescueCopy> RescueCopies::TakeNews()
 {
+    Prune();
     std::optional<RescueCopy> news;
     for (const RescueCopy& copy : List()) {
         const std::string id = fs::path(copy.file).filename().string().substr(0, 25);
@@ -300,6 +301,24 @@ void RescueCopies::Prune() const
         if (++count > kMostCopies || bytes > kMostBytes) {
             Remove(entry.id);
             unlink(FileOf(entry.id, kLockEnding).c_str());
+        }
+    }
+    RemoveRemains();
+}
+
+/// What a program that was killed in the middle left without a note: nobody is at work on it after a day.
+void RescueCopies::RemoveRemains() const
+{
+    constexpr std::int64_t kDay = 86'400'000'000'000;
+    const std::string latest = NewId(RescueNote::Now().nanoseconds - kDay);
+    std::error_code error;
+    for (fs::directory_iterator at(m_folder, error); !error && at != fs::directory_iterator();
+         at.increment(error)) {
+        const std::string name = at->path().filename().string();
+        const std::string id = name.substr(0, name.find('.'));
+        const bool ours = IsId(id) && (name == id + kDesignEnding || name == id + kLockEnding);
+        if (ours && id < latest && FileExists(FileOf(id, kNoteEnding).c_str()) == 0 && !IsRunning(id)) {
+            unlink(at->path().c_str());
         }
     }
 }

@@ -85,6 +85,7 @@ private:
     bool IsRunning(const std::string& id) const;
     void Remove(const std::string& id) const;
     void Prune() const;
+    void RemoveRemains() const;
 
     std::string m_folder;
     std::string m_liveId; ///< empty until the first live copy

@@ -127,9 +127,16 @@ void SlideBar(COrrevaDoc& document, std::int32_t position)
     if (!trial || position == document.bar_position) {
         return;
     }
-    document.bar_position = position;
-    (document.active_record->*trial->parameter.set)(position);
-    Recompute(document);
+    TryBarValue(document, position, position);
+}
+
+void TryBarValue(COrrevaDoc& document, double value, std::int32_t position)
+{
+    if (const auto trial = CurrentTrial(document)) {
+        document.bar_position = position;
+        (document.active_record->*trial->parameter.set)(value);
+        Recompute(document);
+    }
 }
 
 std::optional<SliderState> ResetBar(COrrevaDoc& document)

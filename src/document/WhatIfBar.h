@@ -25,6 +25,9 @@ std::optional<SliderState> SelectBarParameter(COrrevaDoc& document, std::int32_t
 /// repaint where the slider stood before writes nothing.
 void SlideBar(COrrevaDoc& document, std::int32_t position);
 
+/// The parameter under trial takes a value that the slider shows at `position` at the nearest.
+void TryBarValue(COrrevaDoc& document, double value, std::int32_t position);
+
 /// "Reset": the parameter under trial goes back.
 std::optional<SliderState> ResetBar(COrrevaDoc& document);
 

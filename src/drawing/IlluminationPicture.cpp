@@ -106,6 +106,23 @@ void AddBand(Chart& chart, const IlluminationStops& stops, double field, const I
 
 } // namespace
 
+std::vector<FieldStop> FieldStopsOf(const std::vector<Eyepiece>& eyepieces, double f, double widest)
+{
+    constexpr std::size_t kStopsAtMost = 40;
+    std::vector<FieldStop> stops;
+    for (const Eyepiece& eyepiece : eyepieces) {
+        if (!(eyepiece.focal_length > 0) || !(eyepiece.apparent_field > 0) || stops.size() == kStopsAtMost) {
+            continue;
+        }
+        const double magnification = f / eyepiece.focal_length;
+        const double diameter = FieldSize(f, eyepiece.apparent_field / magnification);
+        if (diameter > 0 && diameter <= widest) {
+            stops.push_back({eyepiece.name, diameter});
+        }
+    }
+    return stops;
+}
+
 double ShownField(const IlluminationStops& stops, double wanted)
 {
     if (!HasIllumination(stops)) {

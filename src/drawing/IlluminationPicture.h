@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawing/Chart.h"
+#include "model/analysis/Eyepieces.h"
 #include "model/optics/Illumination.h"
 
 #include <span>
@@ -41,6 +42,11 @@ struct FieldStop {
     std::string name;    ///< code page 1252
     double diameter = 0; ///< mm
 };
+
+/// The field stops of the eyepieces whose focal length and apparent field are known, as far as they are not
+/// wider than `widest` mm: what the eyepiece's actual field measures in the focal plane of the focal length f
+/// (mm).
+std::vector<FieldStop> FieldStopsOf(const std::vector<Eyepiece>& eyepieces, double f, double widest);
 
 /// The largest field that is shown, as a diameter in mm.
 double ShownField(const IlluminationStops& stops, double wanted);

@@ -7,6 +7,9 @@
 #include "Version.h"
 
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -27,6 +30,8 @@ constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a wind
   orreva-cli compare FILE FILE
   orreva-cli sweep  [TELESCOPE] --vary KEY=FROM:TO:COUNT... [--show NAME]... [--jobs N]
   orreva-cli calc   [EXPRESSION]...
+  orreva-cli figure [TELESCOPE] --readings FILE [--source moving|fixed] [--conic K] [--wavelength NM]
+                    [--format text|csv|json]
   orreva-cli rescue [NUMBER] [-o FILE]
 
 TELESCOPE is a design FILE, or the telescope of the quick New dialog with any of --diameter MM,
@@ -38,7 +43,8 @@ field, all of them without --page; or illumination. For foucault: --zones N, --c
 
 PICTURE is section (--mode, --pointer, --zoom 1..5, --scroll X,Y, --extended, --no-offset, --box-and-cage),
 summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM),
-sector (--type I --diameter MM --value V), illumination or secondary-choice.
+sector (--type I --diameter MM --value V), illumination, secondary-choice or wavefront (--readings FILE, --source,
+--conic, --wavelength).
 
 values prints every number of the design, or each NAME, with its unit; check tells what is wrong with it, and
 compare what differs between two. sweep prints a table of designs: one to four --vary, the first running slowest.
@@ -53,10 +59,9 @@ Exit status: 0 done, 1 a file or an expression failed, 2 the command line is not
 errors or warnings.
 )";
 
-int Run(int argc, char** argv)
+int Run(const std::vector<std::string>& arguments)
 {
-    const CommandLine words =
-        ParseCommandLine(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    const CommandLine words = ParseCommandLine(arguments);
     if (words.help || words.version) {
         return WriteOutput("", words.help ? kHelp : std::string("orreva-cli ") + kVersion + "\n");
     }
@@ -66,6 +71,21 @@ int Run(int argc, char** argv)
     return RunVerb(words);
 }
 
+constexpr const char* kNoMemory = "not enough memory";
+
+/// What the memory cannot hold is one line, on whichever thread it is found. Anything else that nobody caught
+/// is a fault of the program.
+void OnUncaught()
+{
+    try {
+        std::rethrow_exception(std::current_exception());
+    } catch (const std::bad_alloc&) {
+        std::_Exit(Fail(kNoMemory));
+    } catch (...) {
+        std::abort();
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -73,11 +93,15 @@ int main(int argc, char** argv)
     std::signal(SIGPIPE, SIG_IGN); // a reader that has seen enough ends the output as a failed write,
     std::signal(SIGXFSZ, SIG_IGN); // and so does a file that may not grow
     SetLogSink(nullptr);           // standard error is for the user, in a debug build too
+    std::set_terminate(OnUncaught);
     try {
-        return Run(argc, argv);
+        return Run(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    } catch (const UsageFault& fault) {
+        std::fprintf(stderr, "%s\n", fault.line.c_str());
+        return 2;
     } catch (const std::bad_alloc&) {
-        return Fail("not enough memory");
+        return Fail(kNoMemory);
     } catch (const std::length_error&) {
-        return Fail("not enough memory"); // what no memory could hold
+        return Fail(kNoMemory); // nor could any other
     }
 }

@@ -25,13 +25,18 @@ private:
 
 std::unique_ptr<Browser> g_browser;
 
+/// The manual stands on the web or beside the program.
+constexpr const char* kSchemes[] = {"https", "file"};
+
 } // namespace
 
 AppFixture::AppFixture(int language)
 {
     qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
     g_browser = std::make_unique<Browser>(helpPages);
-    QDesktopServices::setUrlHandler("https", g_browser.get(), "Open");
+    for (const char* const scheme : kSchemes) {
+        QDesktopServices::setUrlHandler(scheme, g_browser.get(), "Open");
+    }
     COrrevaApp::Profile().setValue("Settings/Language", language);
     app = std::make_unique<COrrevaApp>();
     EXPECT_TRUE(app->InitInstance({}));
@@ -46,7 +51,9 @@ AppFixture::~AppFixture()
     app->Document().active_record->SetModified(0);
     app.reset();
     g_nLanguage = kEnglish;
-    QDesktopServices::unsetUrlHandler("https");
+    for (const char* const scheme : kSchemes) {
+        QDesktopServices::unsetUrlHandler(scheme);
+    }
     g_browser.reset();
 }
 

@@ -53,6 +53,28 @@ bool IsLeftOut(int command)
            command == 32809;
 }
 
+/// Dialogs that print or choose paper: their files are not the test's.
+bool IsOfTheToolkit(const QWidget& dialog)
+{
+    return dialog.inherits("QAbstractPrintDialog") || dialog.inherits("QPageSetupDialog") ||
+           dialog.inherits("QPrintPreviewDialog");
+}
+
+/// Whether the format has a text for each value that is read back as such: it has none for a NaN or a
+/// negative infinity, an angle bracket, or a long text.
+bool HasItsText(const COrrevaData& record)
+{
+    constexpr std::size_t kLongest = 1000;
+    return std::ranges::all_of(RecordFields(), [&record](const RecordField& field) {
+        if (const auto* const real = std::get_if<RealField>(&field.field)) {
+            return !std::isnan(record.*real->place) && record.*real->place != -HUGE_VAL;
+        }
+        const auto* const text = std::get_if<TextField>(&field.field);
+        const std::string_view value = text != nullptr ? (record.*text->place).GetText() : "";
+        return value.size() < kLongest && value.find('<') == std::string_view::npos;
+    });
+}
+
 /// A user who does not know what he does. Each event is one turn of the event loop, also within dialogs.
 class RandomUser : public QObject {
     Q_OBJECT
@@ -120,6 +142,8 @@ private:
             Answer(*box);
         } else if (auto* const files = qobject_cast<QFileDialog*>(modal)) {
             Choose(*files);
+        } else if (modal != nullptr && IsOfTheToolkit(*modal)) {
+            qobject_cast<QDialog*>(modal)->reject();
         } else if (modal != nullptr) {
             m_dialogs += m_seen != modal ? 1 : 0;
             m_seen = modal;
@@ -251,17 +275,12 @@ private:
         }
     }
 
-    /// What a file would hold of the record is read back as the same. The format has no text for a NaN, and
-    /// none for a negative infinity, that is read as such.
+    /// What a file would hold of the record is read back as the same.
     void CheckDesign()
     {
         COrrevaDoc& document = m_app.Document();
         const COrrevaData& record = document.main_record;
-        const bool writable = std::ranges::all_of(RecordFields(), [&record](const RecordField& field) {
-            const auto* const real = std::get_if<RealField>(&field.field);
-            return real == nullptr || (!std::isnan(record.*real->place) && record.*real->place != -HUGE_VAL);
-        });
-        if (!document.HasFile() || !writable) {
+        if (!document.HasFile() || !HasItsText(record)) {
             return;
         }
         const std::string bytes = WriteTelescope(record);

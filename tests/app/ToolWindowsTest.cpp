@@ -5,6 +5,7 @@
 #include "windows/CompareWindow.h"
 #include "windows/DesignCheckField.h"
 #include "windows/DesignCheckWindow.h"
+#include "windows/IlluminationWindow.h"
 #include "windows/VariationWindow.h"
 
 #include <QFileDialog>
@@ -170,7 +171,7 @@ TEST_F(ToolWindows, AClickOnACurveTriesOneOfTheSevenParameters)
     auto* const window = Find<CVariationWindow>();
     ASSERT_NE(nullptr, window);
     emit window->TrialWanted(FindRecordField("secondary/diameter"), 60.2);
-    EXPECT_EQ(60, Record().GetSecondaryDiameter()) << "the bar takes whole millimetres";
+    EXPECT_EQ(60.2, Record().GetSecondaryDiameter()) << "to the last digit";
     EXPECT_EQ(1, app->Document().bar_params[2].selected);
     emit window->TrialWanted(FindRecordField("tube/distance_front"), 60);
     EXPECT_EQ(125, Record().GetDistanceFront()) << "none of the bar's";
@@ -190,6 +191,35 @@ TEST_F(ToolWindows, QuickNewTellsWhatItUnderstands)
     });
     Choose(32771);
     EXPECT_EQ(200, Record().mirror_diameter);
+}
+
+TEST_F(ToolWindows, TheIlluminationFollowsAndTriesASecondary)
+{
+    MakeTelescope();
+    Choose(33041);
+    auto* const window = Find<CIlluminationWindow>();
+    ASSERT_NE(nullptr, window);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_FALSE(window->isModal());
+    auto* const axes = window->findChild<QTableWidget*>();
+    const auto boldRow = [axes] {
+        for (int row = 0; row < axes->rowCount(); ++row) {
+            if (axes->item(row, 0)->font().bold()) {
+                return axes->item(row, 0)->text();
+            }
+        }
+        return QString();
+    };
+    EXPECT_EQ("46.48 mm", boldRow());
+    emit window->MinorAxisWanted(54.356);
+    EXPECT_EQ(54.356, Record().GetSecondaryDiameter())
+        << "to the last digit, between two places of the slider";
+    EXPECT_EQ("54.36 mm", boldRow());
+    QCoreApplication::processEvents(); // the slider's repaint
+    EXPECT_EQ(54.356, Record().GetSecondaryDiameter());
+    Record().SetSecondaryDiameter(66.04);
+    app->Document().Recalculate();
+    EXPECT_EQ("66.04 mm", boldRow());
 }
 
 } // namespace

@@ -152,6 +152,20 @@ TEST(RescueCopies, PassOverWhatIsNoneOfTheirs)
     EXPECT_TRUE(fs::exists(folder / "foreign.note"));
 }
 
+TEST(RescueCopies, RemoveTheRemainsOfYesterday)
+{
+    const TemporaryFolder folder;
+    RescueCopies copies(folder.Path());
+    folder.Write("0123456789abcdef-01234567.orreva.xml", "<telescope>");
+    folder.Write("0123456789abcdef-01234568.lock", "");
+    folder.Write("7fffffffffffffff-01234567.orreva.xml", "<telescope>"); // somebody is at work on it
+    folder.Write("0123456789abcdef.orreva.xml", "<telescope>");
+    EXPECT_FALSE(copies.TakeNews());
+    EXPECT_EQ(2, folder.Count());
+    EXPECT_TRUE(fs::exists(folder / "7fffffffffffffff-01234567.orreva.xml"));
+    EXPECT_TRUE(fs::exists(folder / "0123456789abcdef.orreva.xml"));
+}
+
 TEST(RescueCopies, TheLiveCopyIsNobodyElsesAndGoesInOrder)
 {
     const TemporaryFolder folder;

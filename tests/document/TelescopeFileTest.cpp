@@ -220,6 +220,41 @@ TEST(TelescopeFile, ATitleWithATagRedirectsTheKeys)
     EXPECT_EQ(7, back.mirror_diameter) << "the walk goes on behind the title";
 }
 
+TEST(TelescopeFile, WeightsBeforeTheSecondaryLeadItsKeysAstray)
+{
+    // The walk knows no nesting: the first "secondary" is a weight, and the next diameter the focuser's.
+    const std::string weight = "<weight><mirror>1000</mirror><secondary>200</secondary></weight>";
+    const std::string focuser = "<focuser><height>60</height><diameter>50</diameter></focuser>";
+    const std::string secondary = "<secondary><diameter>46</diameter><offset>3</offset></secondary>";
+    COrrevaData data;
+    Read("<telescope>" + weight + focuser + secondary + "</telescope>", data);
+    EXPECT_EQ(50, data.secondary_diameter);
+    EXPECT_EQ(3, data.secondary_offset);
+    EXPECT_EQ(200, data.weight_secondary);
+    EXPECT_EQ(50, data.focuser_diameter);
+
+    Read("<telescope>" + focuser + weight + secondary + "</telescope>", data);
+    EXPECT_EQ(46, data.secondary_diameter);
+    EXPECT_EQ(200, data.weight_secondary);
+    Read("<telescope>" + focuser + secondary + weight + "</telescope>", data);
+    EXPECT_EQ(46, data.secondary_diameter);
+    EXPECT_EQ(200, data.weight_secondary) << "the secondary of the weights, which come later";
+}
+
+TEST(TelescopeFile, ATitleAbove1023BytesIsWrittenWholeAndReadCut)
+{
+    for (const std::size_t length : {1022u, 1023u, 1024u, 5000u}) {
+        COrrevaData data;
+        data.SetTitle(std::string(length, 't').c_str());
+        data.SetMirrorDiameter(200);
+        EXPECT_EQ("<title>" + std::string(length, 't') + "</title>", Line(WriteTelescope(data), "title"));
+        COrrevaData back;
+        Read(WriteTelescope(data), back);
+        EXPECT_EQ(std::string(std::min<std::size_t>(length, 1023), 't'), back.title.GetText());
+        EXPECT_EQ(200, back.mirror_diameter) << "and nothing behind it is lost";
+    }
+}
+
 TEST(TelescopeFile, CarriageReturnsBeforeLineFeedsAreNoPartOfTheText)
 {
     COrrevaData data;

@@ -90,6 +90,20 @@ TEST_F(WhatIfBar, SlidingWritesWholeMillimetresAndRefreshesTwice)
     EXPECT_EQ(1, data.IsModified());
 }
 
+TEST_F(WhatIfBar, TakesAValueBetweenTheSlidersPlaces)
+{
+    TryBarValue(doc, 54.356, 54);
+    EXPECT_TRUE(host.Take().empty()) << "nothing is under trial";
+    SelectBarParameter(doc, 2);
+    TryBarValue(doc, 54.356, 54);
+    EXPECT_EQ(54.356, data.secondary_diameter);
+    host.Take();
+    SlideBar(doc, 54); // the slider's repaint
+    EXPECT_EQ(54.356, data.secondary_diameter);
+    ResetBar(doc);
+    EXPECT_EQ(46.482, data.GetSecondaryDiameter());
+}
+
 TEST_F(WhatIfBar, AnotherSelectionUndoesTheTrial)
 {
     SelectBarParameter(doc, 2);

@@ -103,6 +103,20 @@ TEST(IlluminationPicture, ShowsTheWantedFieldAndHalfTheLightWhereTheyAreNear)
     EXPECT_NEAR(1.05 * FieldDiameterAtShare(wide, 0.5), ShownField(wide, 12), 1e-9);
 }
 
+TEST(IlluminationPicture, MarksTheFieldStopsThatAreKnown)
+{
+    const std::vector<Eyepiece> eyepieces{
+        {"a", 25, 50}, {"no field", 25, 0}, {"no length", 0, 50}, {"wide", 40, 80}, {"b", 5, 100}};
+    const auto stops = FieldStopsOf(eyepieces, 1500, 50);
+    ASSERT_EQ(2u, stops.size());
+    // The page's actual field, 50 / 60 and 100 / 300 degrees, in the focal plane.
+    EXPECT_EQ("a", stops[0].name);
+    EXPECT_NEAR(3000 * std::tan(50.0 / 60 * M_PI / 360), stops[0].diameter, 1e-6);
+    EXPECT_EQ("b", stops[1].name);
+    EXPECT_NEAR(3000 * std::tan(100.0 / 300 * M_PI / 360), stops[1].diameter, 1e-6);
+    EXPECT_EQ(40u, FieldStopsOf(std::vector<Eyepiece>(1000, {"x", 25, 50}), 1500, 50).size());
+}
+
 TEST(IlluminationPicture, SaysSoWhereThereIsNone)
 {
     IlluminationStops none = kStops;

@@ -188,6 +188,14 @@ TEST_F(SectionPicture, CountsTheScaleFromTheRearEnd)
     EXPECT_TRUE(Has(window, drawn::Text{{172, 551}, "900", kSmallFont, kWhite}));
 }
 
+TEST_F(SectionPicture, SetsTheScaleBelowTheTubeByWholeMillimetresOfItsWall)
+{
+    // The tube is 220 + 21.8 = 241.8 mm wide, the picture 351.8 mm high: offset (1000 - 351.8) / 4 = 162.05.
+    record.SetThicknessHat(10.9);
+    // 80 + 241.8 + 10 + 60 = 391.8, and 554.35 with the offset and a half; the wall's 10.9 would give 555.25.
+    EXPECT_EQ((drawn::Line{{102, 554}, {1072, 554}, kWhite}), Paint().Of<drawn::Line>().at(0));
+}
+
 TEST_F(SectionPicture, WidensTheScalesStepsWithTheTube)
 {
     struct Case {

@@ -36,7 +36,7 @@ std::string Design(const char* title)
     return WriteTelescope(record);
 }
 
-struct Run {
+struct Ended {
     int status = 0; ///< of the exit; -1 for an end by a signal
     std::string words;
 };
@@ -48,6 +48,8 @@ public:
     {
         fs::create_directory(m_folder / "designs");
         fs::create_directory(m_folder / "state");
+        fs::create_directory(m_folder / "temporary");
+        chmod((m_folder / "temporary").c_str(), 0777);
         chmod(m_folder.Path().c_str(), 0777);
         chmod((m_folder / "state").c_str(), 0777);
         Restore();
@@ -75,7 +77,7 @@ public:
     }
 
     /// Runs the program with the call of a number failing (0: none).
-    Run With(int call, int error)
+    Ended With(int call, int error)
     {
         const pid_t child = Start(call, error);
         return End(child);
@@ -90,7 +92,7 @@ public:
         return child;
     }
 
-    Run End(pid_t child)
+    Ended End(pid_t child)
     {
         int status = 0;
         waitpid(child, &status, 0);
@@ -101,12 +103,14 @@ public:
 
     std::string File() const { return m_folder.Read("designs/a.orreva.xml"); }
 
-    /// What stands in the folder beside the file and its `~`.
+    /// What stands beside the file and its `~`, and in the folder for temporary files.
     std::set<std::string> Others() const
     {
         std::set<std::string> names;
-        for (const auto& entry : fs::directory_iterator(m_folder / "designs")) {
-            names.insert(entry.path().filename());
+        for (const char* const place : {"designs", "temporary"}) {
+            for (const auto& entry : fs::directory_iterator(m_folder / place)) {
+                names.insert(entry.path().filename());
+            }
         }
         names.erase("a.orreva.xml");
         names.erase("a.orreva.xml~");
@@ -134,6 +138,7 @@ private:
         const int words = open((m_folder / "words").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
         dup2(words, 1);
         dup2(words, 2);
+        setenv("TMPDIR", (m_folder / "temporary").c_str(), 1);
         setenv("XDG_STATE_HOME", (m_folder / "state").c_str(), 1);
         setenv("ORREVA_FAIL_AT", std::to_string(call).c_str(), 1);
         setenv("ORREVA_FAIL_ERROR", std::to_string(error).c_str(), 1);
@@ -179,7 +184,7 @@ void EachCallFails(Save& save, const std::string& fresh, bool every)
                 continue;
             }
             save.Restore();
-            const Run run = save.With(call, kErrors[k]);
+            const Ended run = save.With(call, kErrors[k]);
             const std::string what = "call " + std::to_string(call) + ", error " +
                                      std::to_string(kErrors[k]) + ", status " + std::to_string(run.status) +
                                      ": " + run.words;
@@ -203,7 +208,7 @@ void KilledAtEachCall(Save& save, const std::string& fresh, bool inPlace)
     const int calls = save.Calls();
     for (int call = 1; call <= calls; ++call) {
         save.Restore();
-        const Run run = save.With(call, 0);
+        const Ended run = save.With(call, 0);
         const std::string what = "killed at call " + std::to_string(call);
         ASSERT_EQ(-1, run.status) << what;
         const std::string file = save.File();
@@ -310,14 +315,14 @@ TEST(CompanionSave, StandsAKillAtAnyMoment)
 TEST(CompanionRead, NeverGivesATelescopeOfZeros)
 {
     Save read({ORREVA_CLI, "save", "designs/a.orreva.xml"});
-    const Run whole = read.With(0, 0);
+    const Ended whole = read.With(0, 0);
     ASSERT_EQ(0, whole.status);
     ASSERT_NE(std::string::npos, whole.words.find("<title>old</title>"));
     const int calls = read.Calls();
     ASSERT_GE(calls, 3) << "it opens, reads and closes at least";
     int failed = 0;
     for (int call = 1; call <= calls; ++call) {
-        const Run run = read.With(call, EIO);
+        const Ended run = read.With(call, EIO);
         EXPECT_TRUE(run.status == 0 || run.status == 1) << call;
         EXPECT_EQ(run.status == 0 ? whole.words : "orreva-cli: cannot read designs/a.orreva.xml\n",
                   run.words);

@@ -11,15 +11,25 @@
 
 namespace {
 
-/// Appends what a descriptor gives to `bytes`, up to `limit` of them. False on an error (`errno`).
-bool ReadTo(int fd, std::size_t limit, std::string& bytes)
+/// The pieces that a descriptor gives; it is waited for where it has none yet.
+ReadPiece PiecesOf(int fd)
+{
+    return [fd](char* bytes, std::size_t size) {
+        ssize_t got = read(fd, bytes, size);
+        while (got < 0 && (errno == EINTR || WaitUntilReady(fd, Ready::ToRead))) {
+            got = read(fd, bytes, size);
+        }
+        return std::ptrdiff_t{got};
+    };
+}
+
+} // namespace
+
+bool ReadPieces(const ReadPiece& read, std::size_t limit, std::string& bytes)
 {
     char block[65536];
     while (bytes.size() < limit) {
-        const ssize_t got = read(fd, block, std::min(sizeof block, limit - bytes.size()));
-        if (got < 0 && (errno == EINTR || WaitUntilReady(fd, Ready::ToRead))) {
-            continue;
-        }
+        const std::ptrdiff_t got = read(block, std::min(sizeof block, limit - bytes.size()));
         if (got <= 0) {
             return got == 0;
         }
@@ -27,8 +37,6 @@ bool ReadTo(int fd, std::size_t limit, std::string& bytes)
     }
     return true;
 }
-
-} // namespace
 
 std::optional<std::string> ReadFileBytes(const char* pszPath, std::size_t limit)
 {
@@ -38,7 +46,7 @@ std::optional<std::string> ReadFileBytes(const char* pszPath, std::size_t limit)
     }
     const Descriptor file(open(pszPath, O_RDONLY | O_CLOEXEC));
     std::string bytes;
-    if (!file || !ReadTo(file.Number(), limit, bytes)) {
+    if (!file || !ReadPieces(PiecesOf(file.Number()), limit, bytes)) {
         return std::nullopt;
     }
     return bytes;
@@ -50,7 +58,7 @@ std::optional<std::string> ReadInput(const std::string& path, std::size_t limit,
     const Descriptor file(given ? fcntl(*given, F_DUPFD_CLOEXEC, 0)
                                 : open(path.c_str(), O_RDONLY | O_CLOEXEC));
     std::string bytes;
-    if (!file || !ReadTo(file.Number(), limit + 1, bytes)) {
+    if (!file || !ReadPieces(PiecesOf(file.Number()), limit + 1, bytes)) {
         error = errno;
         return std::nullopt;
     }

@@ -16,6 +16,11 @@ inline constexpr std::size_t kMostFileBytes = std::size_t{1} << 30;
 /// nobody fills would be waited for, and a device may have no end.
 std::optional<std::string> ReadFileBytes(const char* pszPath, std::size_t limit = kMostFileBytes);
 
+/// Gives up to `size` next bytes of a file and their number: 0 at its end, below 0 for an error (`errno`).
+using ReadPiece = std::function<std::ptrdiff_t(char* bytes, std::size_t size)>;
+/// Appends pieces until `bytes` has `limit` of them or the file ends. False if a read fails before.
+bool ReadPieces(const ReadPiece& read, std::size_t limit, std::string& bytes);
+
 /// All bytes of a file, a pipe or a device, read once to the end; "-" is standard input. Nothing if it cannot
 /// be read to its end or has more than `limit` bytes; `error` is then the system's code (EFBIG: too long).
 std::optional<std::string> ReadInput(const std::string& path, std::size_t limit, int& error);

@@ -148,7 +148,13 @@ void FileReplacement::OpenBeside(const struct stat* old)
     const int error = errno;
     std::error_code none;
     m_inPlace = old != nullptr && m_putAside && MeansInPlace(error);
-    if (!m_inPlace || !m_file->Make(fs::temp_directory_path(none).string(), kPrivate)) {
+    if (!m_inPlace) {
+        FailWith(error);
+        return;
+    }
+    const std::string elsewhere = fs::temp_directory_path(none).string();
+    RemoveStaleFiles(elsewhere);
+    if (!m_file->Make(elsewhere, kPrivate)) {
         FailWith(error);
     }
 }

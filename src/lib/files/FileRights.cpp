@@ -63,11 +63,12 @@ bool TakeRights(int fd, const std::string& path, const struct stat& old)
                        (fstat(fd, &now) == 0 && now.st_gid == old.st_gid);
     const mode_t kept = owner ? 07777 : group ? 0777 : 0707;
 
-    const auto wanted =
-        Names(ReadAttribute([&](char* to, std::size_t n) { return listxattr(path.c_str(), to, n); }));
+    const auto names = ReadAttribute([&](char* to, std::size_t n) { return listxattr(path.c_str(), to, n); });
+    const bool known = names || errno == ENOTSUP || errno == ENOSYS; // or a file system without any
+    const auto wanted = Names(names);
     const auto present = Names(ReadAttribute([&](char* to, std::size_t n) { return flistxattr(fd, to, n); }));
-    const bool list = wanted.contains(kAccessList);
-    bool complete = group || !list;
+    const bool list = !known || wanted.contains(kAccessList);
+    bool complete = known && (group || !list);
     for (const std::string& name : present) {
         if (!wanted.contains(name)) {
             fremovexattr(fd, name.c_str()); // what the folder gives to a new file

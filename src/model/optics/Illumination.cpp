@@ -17,6 +17,7 @@ namespace {
 struct Disc {
     double low;
     double high;
+    double drift = 0; ///< of its centre, for each mm of h
 
     double Middle() const { return 0.5 * low + 0.5 * high; }
     double SquaredHeight(double x) const { return (x - low) * (high - x); }
@@ -70,7 +71,8 @@ Disc DiscAt(const Opening& opening, double D, double h)
     const long double unit = static_cast<long double>(D) / 2;
     const long double centre = opening.drift * h;
     const auto place = [&](long double x) { return static_cast<double>(std::clamp(x / unit, -kFar, kFar)); };
-    return {place(centre - opening.radius), place(centre + opening.radius)};
+    return {place(centre - opening.radius), place(centre + opening.radius),
+            static_cast<double>(std::clamp(opening.drift / unit, -kFar, kFar))};
 }
 
 /// Area of the upper half of a segment of the height t, cut off a circle of the radius r; t from 0 to 2 r.
@@ -100,6 +102,14 @@ double AreaUnder(const Disc& disc, double x, double y)
     return HalfSegment(disc.high - x, r) - HalfSegment(disc.high - y, r);
 }
 
+/// How that area changes with h: the outline moves with the disc, and x and y stay.
+double AreaChange(const Disc& disc, double x, double y)
+{
+    const double from = std::sqrt(std::max(disc.SquaredHeight(x), 0.0));
+    const double to = std::sqrt(std::max(disc.SquaredHeight(y), 0.0));
+    return disc.drift * (from - to);
+}
+
 /// Where the outlines of two discs meet, as a place on the line of centres; anything where they do not.
 double Crossing(const Disc& a, const Disc& b)
 {
@@ -109,8 +119,9 @@ double Crossing(const Disc& a, const Disc& b)
 /// The parts of the primary that a point sees, as shares of its area. Both fall from the centre outward, each
 /// being what discs that drift evenly have in common (Brunn and Minkowski).
 struct SeenParts {
-    double open = 0;     ///< through all openings
-    double shadowed = 0; ///< what the shadow takes of that
+    double open = 0;            ///< through all openings
+    double shadowed = 0;        ///< what the shadow takes of that
+    double shadowed_change = 0; ///< of that for each mm of h
     double Light() const { return open - shadowed; }
 };
 
@@ -150,7 +161,8 @@ public:
         }
         AddPiece(parts, x, m_to);
         // Halves of discs were added, and the primary's area is pi.
-        return {parts.open * 2 / std::numbers::pi, parts.shadowed * 2 / std::numbers::pi};
+        const double share = 2 / std::numbers::pi;
+        return {parts.open * share, parts.shadowed * share, parts.shadowed_change * share};
     }
 
 private:
@@ -199,6 +211,7 @@ private:
         if (m_hasShadow && middle > m_shadow.low && middle < m_shadow.high) {
             const bool covered = m_shadow.SquaredHeight(middle) >= lowest->SquaredHeight(middle);
             parts.shadowed += covered ? open : std::min(open, AreaUnder(m_shadow, x, y));
+            parts.shadowed_change += AreaChange(covered ? *lowest : m_shadow, x, y);
         }
     }
 
@@ -257,9 +270,58 @@ struct LightSample {
 struct LightSpan {
     LightSample from;
     LightSample to;
-    double Least() const { return to.parts.open - from.parts.shadowed; }
+    double Least() const;
     double ShadowGone() const { return from.parts.shadowed - to.parts.shadowed; }
 };
+
+/// The root of a part in a span, which curves downward (Brunn and Minkowski): above the straight line between
+/// its values at the ends, and below its tangents there. From 0 at the span's start to 1 at its end.
+struct StraightRoot {
+    double at0;
+    double at1;
+    double At(double t) const { return at0 + (at1 - at0) * t; }
+};
+
+/// The least of open^2 - shadowed^2 from t0 to t1.
+double LeastDifference(const StraightRoot& open, const StraightRoot& shadowed, double t0, double t1)
+{
+    const auto difference = [&](double t) {
+        const double a = open.At(t);
+        const double b = shadowed.At(t);
+        return (a - b) * (a + b);
+    };
+    const double a = open.at1 - open.at0;
+    const double b = shadowed.at1 - shadowed.at0;
+    const double lowest = (shadowed.at0 * b - open.at0 * a) / ((a - b) * (a + b)); // where it is level
+    double least = std::min(difference(t0), difference(t1));
+    if (lowest > t0 && lowest < t1) {
+        least = std::min(least, difference(lowest));
+    }
+    return least;
+}
+
+/// Never more than the light anywhere in the span, and the nearer to its least the shorter the span is.
+double LightSpan::Least() const
+{
+    constexpr double kTooSmall = 1e-12; // a part whose root has no slope to speak of
+    const StraightRoot open{std::sqrt(from.parts.open), std::sqrt(to.parts.open)};
+    const double first = std::sqrt(from.parts.shadowed);
+    const double last = std::sqrt(to.parts.shadowed);
+    const StraightRoot level{first, first}; // the shadowed part only falls
+    if (to.parts.shadowed < kTooSmall) {
+        return LeastDifference(open, level, 0, 1);
+    }
+    const auto slope = [&](const LightSample& sample, double root) {
+        return std::min(sample.parts.shadowed_change, 0.0) / (2 * root) * (to.h - from.h);
+    };
+    const StraightRoot leaving{first, first + slope(from, first)};
+    const StraightRoot arriving{last - slope(to, last), last};
+    // From where the tangent of the end is the lower one of the two.
+    const double change =
+        (arriving.at0 - leaving.at0) / ((arriving.at0 - leaving.at0) - (arriving.at1 - leaving.at1));
+    const double meet = change > 0 && change < 1 ? change : (arriving.At(0.5) < leaving.At(0.5) ? 0 : 1);
+    return std::min(LeastDifference(open, leaving, 0, meet), LeastDifference(open, arriving, meet, 1));
+}
 
 /// How much of the light may hide from the search, as a share of the primary's area.
 constexpr double kLightTolerance = 1e-10;
@@ -278,7 +340,7 @@ public:
         // The left part is looked at first, so that what ends the search is the first place of all.
         for (int steps = 0; !spans.empty() && steps < kStepsAtMost; ++steps) {
             const LightSpan span = spans.back();
-            if (span.Least() > m_level) {
+            if (span.Least() > m_level + kLightNoise) {
                 spans.pop_back();
                 continue;
             }

@@ -187,7 +187,7 @@ TEST(Illumination, FirstOfSeveralPlacesWithOneLight)
     }
     ASSERT_LT(lowest, 0.7);
     ASSERT_GT(share_at(1.1), 1.1);
-    for (const double share : {0.99, 0.9, 0.75, lowest + 0.001}) {
+    for (const double share : {0.99, 0.9, 0.75, lowest + 0.001, lowest + 1e-7, lowest + 1e-9}) {
         const double h = FieldDiameterAtShare(kRisingAgain, share) / 2;
         EXPECT_LT(h, lowest_at + 1e-3) << share;
         EXPECT_NEAR(share, share_at(h), 1e-9) << share;
