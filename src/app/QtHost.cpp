@@ -253,7 +253,7 @@ void CQtHost::ShowIllumination(const IlluminationStops& stops, double wanted)
     QWidget* const owner = Owner();
     if (m_illumination == nullptr || m_illumination->parentWidget() != owner) {
         delete m_illumination;
-        m_illumination = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").eyepieces, owner);
+        m_illumination = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").entries, owner);
     }
     const QString title =
         m_document == nullptr ? QString() : ToQString(m_document->active_record->GetTitle());
