@@ -36,6 +36,9 @@ CDesignCheckWindow::CDesignCheckWindow(QWidget* parent)
     m_table->setHorizontalHeaderLabels(titles);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_table->horizontalHeader()->setSectionResizeMode(kSeverityColumn, QHeaderView::ResizeToContents);
+    // Sentences wrap, so that a row is as high as the columns' widths make it.
+    connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, m_table,
+            &QTableView::resizeRowsToContents);
     m_table->verticalHeader()->hide();
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -79,9 +82,3 @@ void CDesignCheckWindow::ShowNothing()
 }
 
 void CDesignCheckWindow::ShowMessage(const Bilingual& message) { m_message->setText(Shown(message)); }
-
-void CDesignCheckWindow::resizeEvent(QResizeEvent* event)
-{
-    QDialog::resizeEvent(event);
-    m_table->resizeRowsToContents();
-}

@@ -23,9 +23,6 @@ signals:
     /// The user wants to see the field of a key of the design file.
     void FieldWanted(const QString& key);
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
     void AddFinding(int row, const DesignFinding& finding);
     void ShowMessage(const Bilingual& message);
