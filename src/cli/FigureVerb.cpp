@@ -1,6 +1,7 @@
 #include "cli/FigureVerb.h"
 
 #include "cli/CommandLine.h"
+#include "cli/Input.h"
 #include "cli/Output.h"
 #include "cli/VerbTools.h"
 #include "cli/report/FigureReport.h"
@@ -52,9 +53,8 @@ std::optional<Figure> ReadFigure(const FigureWords& words, COrrevaData& record)
         Fail("the mirror has no diameter or no focal length");
         return std::nullopt;
     }
-    const auto text = ReadFileBytes(words.readings.c_str());
+    const auto text = ReadInputWord(words.readings);
     if (!text) {
-        Fail("cannot read " + words.readings);
         return std::nullopt;
     }
     const ReadingsParse parse = ParseReadings(*text, D / 2);
