@@ -54,7 +54,7 @@ std::string StoredText(const TelescopeFields& fields)
 
 RecordState StateOf(const COrrevaData& record)
 {
-    return {record, record.file_path.GetText(), record.modified};
+    return {record, record.file_path.GetText(), record.modified, {}};
 }
 
 void PutState(const RecordState& state, COrrevaData& record)
@@ -66,7 +66,8 @@ void PutState(const RecordState& state, COrrevaData& record)
 
 bool IsSameDesign(const RecordState& a, const RecordState& b)
 {
-    return a.path == b.path && (a.path.empty() || SettledText(a.fields) == SettledText(b.fields));
+    return a.path == b.path && a.readings == b.readings &&
+           (a.path.empty() || SettledText(a.fields) == SettledText(b.fields));
 }
 
 bool History::Note(const Bilingual& name, const RecordState& now, StepKind kind)
@@ -106,12 +107,12 @@ void History::Renamed(const std::string& from, const std::string& to)
     }
 }
 
-void History::Saved(const std::string& path, const TelescopeFields& fields)
+void History::Saved(const std::string& path, const TelescopeFields& fields, const ReadingBook& readings)
 {
     const std::string stored = StoredText(fields);
     const auto compare = [&](RecordState& state) {
         if (state.path == path) {
-            state.modified = StoredText(state.fields) == stored ? 0 : 1;
+            state.modified = StoredText(state.fields) == stored && state.readings == readings ? 0 : 1;
         }
     };
     compare(m_start);

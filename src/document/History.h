@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lib/text/Language.h"
+#include "model/optics/ReadingSeries.h"
 #include "model/record/TelescopeFields.h"
 
 #include <cstddef>
@@ -16,13 +17,14 @@ struct RecordState {
     TelescopeFields fields;
     std::string path; ///< bytes of the file system; empty: no telescope is loaded
     std::uint8_t modified = 0;
+    ReadingBook readings{}; ///< of the knife edge, kept beside the design
 };
 
 RecordState StateOf(const COrrevaData& record);
 /// Makes `record` what it was; the document's title is not told.
 void PutState(const RecordState& state, COrrevaData& record);
-/// Whether two states are the same telescope under the same path. A number that is unset counts as the
-/// default that it would become, so that reading a record is no change of it.
+/// Whether two states are the same telescope and readings under the same path. A number that is unset counts
+/// as the default that it would become, so that reading a record is no change of it.
 bool IsSameDesign(const RecordState& a, const RecordState& b);
 
 enum class StepKind : std::uint8_t {
@@ -52,8 +54,9 @@ public:
     /// The present design got another path: so do its earlier and later states, which must not go to the old
     /// one. Other designs keep theirs.
     void Renamed(const std::string& from, const std::string& to);
-    /// The file at `path` now holds `fields`: states of that path are modified as far as they differ from it.
-    void Saved(const std::string& path, const TelescopeFields& fields);
+    /// The files at and beside `path` now hold these: states of that path are modified as far as they differ
+    /// from it.
+    void Saved(const std::string& path, const TelescopeFields& fields, const ReadingBook& readings);
 
 private:
     struct Step {

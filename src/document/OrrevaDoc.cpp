@@ -125,6 +125,7 @@ void COrrevaDoc::DropTelescope()
 void COrrevaDoc::OnFileNewQuick()
 {
     active_record->Reset();
+    readings.Clear();
     EndBarTrial();
     QuickNewTexts texts = kQuickNewTexts;
     if (m_host.AskQuickNew(texts)) {
@@ -146,6 +147,7 @@ void COrrevaDoc::OnFileNewDetailed()
     }
     g_nWizard = 1;
     active_record->Reset();
+    readings.Clear();
     EndBarTrial();
     field_diameter_100 = 10.0;
     field_angle_100 = FieldAngle(active_record->GetFocalLength(), 10.0);
@@ -171,11 +173,13 @@ void COrrevaDoc::OpenDesign(const char* path)
 {
     active_record->Reset();
     EndBarTrial();
+    readings.Clear();
     const bool read = active_record->Load(path) == 0;
     Recalculate();
     active_record->SetModified(0);
     if (read) {
-        m_history.Saved(active_record->file_path.GetText(), *active_record);
+        TellReadings(readings.Open(path, g_nLanguage));
+        m_history.Saved(active_record->file_path.GetText(), *active_record, readings.Book());
     }
     NoteStep(kStepOpen, StepKind::Replaces);
 }
@@ -256,6 +260,7 @@ bool COrrevaDoc::OpenOldBytes(const char* path, std::string_view bytes)
     const bool replaces = bytes.size() >= sizeof kLastOldVersion; // a shorter file leaves the record alone
     const bool read = Serialize(archive);
     if (replaces) {
+        readings.Clear();
         EndBarTrial();
     }
     if (!read) {
@@ -329,14 +334,6 @@ void COrrevaDoc::OnTubeProperties()
     NoteStep(kStepTube);
 }
 
-void COrrevaDoc::StoreReadings(const ReadingBook& book)
-{
-    if (readings.Change(book)) {
-        main_record.SetModified(1);
-        UpdateAllViews();
-    }
-}
-
 void COrrevaDoc::OnCentreMarks() { m_host.ShowMessage(CentreMarksMessage(*active_record).c_str()); }
 
 void COrrevaDoc::OnRaytracingSettings()
@@ -380,11 +377,35 @@ bool COrrevaDoc::RunSheet(Modal modal, const Bilingual& step)
     return accepted;
 }
 
+RecordState COrrevaDoc::PresentState() const
+{
+    RecordState state = StateOf(main_record);
+    state.readings = readings.Book();
+    return state;
+}
+
+/// The status bar tells what became of the file beside the design.
+void COrrevaDoc::TellReadings(const std::string& told)
+{
+    if (!told.empty()) {
+        m_status.Say(told);
+        ShowStatus();
+    }
+}
+
+void COrrevaDoc::StoreReadings(const ReadingBook& book)
+{
+    if (readings.Change(book)) {
+        main_record.SetModified(1);
+        UpdateAllViews();
+    }
+}
+
 void COrrevaDoc::BeginCommand()
 {
     m_status.BeginCommand();
     ShowStatus();
-    m_before = StateOf(main_record);
+    m_before = PresentState();
     if (!TrialAmong(bar_params)) { // a trial that a step takes over is undone with it
         m_history.StartFrom(m_before);
     }
@@ -392,7 +413,7 @@ void COrrevaDoc::BeginCommand()
 
 void COrrevaDoc::StartBarTrial()
 {
-    bar_start = StateOf(main_record);
+    bar_start = PresentState();
     m_history.StartFrom(*bar_start);
 }
 
@@ -406,13 +427,13 @@ void COrrevaDoc::EndBarTrial()
 
 void COrrevaDoc::AcceptBarTrial(const Bilingual& name)
 {
-    m_history.Note(name, StateOf(main_record));
+    m_history.Note(name, PresentState());
     StartBarTrial();
 }
 
 void COrrevaDoc::NoteStep(const Bilingual& name, StepKind kind)
 {
-    RecordState now = StateOf(main_record);
+    RecordState now = PresentState();
     if (IsSameDesign(m_before, now)) { // a trial alone is no step
         return;
     }
@@ -432,7 +453,7 @@ void COrrevaDoc::OnUndo()
 {
     if (const Bilingual* const found = m_history.UndoName()) {
         const Bilingual name = *found;
-        Restore(m_history.Undo(StateOf(main_record)), kUndo, name);
+        Restore(m_history.Undo(PresentState()), kUndo, name);
     }
 }
 
@@ -440,7 +461,7 @@ void COrrevaDoc::OnRedo()
 {
     if (const Bilingual* const found = m_history.RedoName()) {
         const Bilingual name = *found;
-        Restore(m_history.Redo(StateOf(main_record)), kRedo, name);
+        Restore(m_history.Redo(PresentState()), kRedo, name);
     }
 }
 
@@ -448,13 +469,14 @@ void COrrevaDoc::Restore(const RecordState& state, const Bilingual& text, const 
 {
     EndBarTrial();
     PutState(state, main_record);
+    readings.Change(state.readings);
     SetDocumentTitle(main_record.file_path);
     if (HasFile()) {
         Recalculate();
         main_record.SetModified(state.modified);
     }
     UpdateAllViews();
-    m_history.StartFrom(StateOf(main_record));
+    m_history.StartFrom(PresentState());
     m_status.Say(FormatText(text.In(g_nLanguage), name.In(g_nLanguage)));
     ShowStatus();
 }
@@ -476,8 +498,12 @@ void COrrevaDoc::OnStored(void (COrrevaData::*set)(double))
 bool COrrevaDoc::Write(const COrrevaData& record)
 {
     const bool written = m_files.Write(record);
+    std::string told;
+    if (written && &record == &main_record) {
+        told = readings.Save(record.file_path.GetText(), g_nLanguage);
+    }
     if (written) {
-        m_history.Saved(record.file_path.GetText(), record);
+        m_history.Saved(record.file_path.GetText(), record, readings.Book());
         if (bar_start) {
             bar_start->modified = 1; // what the file holds is the trial
         }
@@ -487,6 +513,7 @@ bool COrrevaDoc::Write(const COrrevaData& record)
         }
     }
     TellSave(StatusTopic::Save);
+    TellReadings(told);
     return written;
 }
 

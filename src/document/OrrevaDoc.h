@@ -132,6 +132,8 @@ public:
     std::optional<RecordState> bar_start; ///< the record before the trial, as long as nothing else changed it
     FoucaultReadings readings; ///< of the knife edge, kept beside the design
 
+    /// The main record and the readings, as a step of the user finds or leaves them.
+    RecordState PresentState() const;
     /// Takes another book of readings over, as the design's own change.
     void StoreReadings(const ReadingBook& book);
 
@@ -142,6 +144,7 @@ private:
     void ComputeFigures();
     void OpenDesign(const char* path);
     void OpenCopy(const RescueCopy& copy);
+    void TellReadings(const std::string& told);
     void Restore(const RecordState& state, const Bilingual& text, const Bilingual& name);
     void TellSave(StatusTopic topic);
     void TellCopies();

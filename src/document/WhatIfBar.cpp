@@ -56,7 +56,7 @@ void TakeBack(COrrevaDoc& document, const Trial& trial)
     }
     Restore(document, trial);
     document.Recalculate();
-    if (document.bar_start && IsSameDesign(*document.bar_start, StateOf(data))) {
+    if (document.bar_start && IsSameDesign(*document.bar_start, document.PresentState())) {
         data.SetModified(document.bar_start->modified);
     }
     document.UpdateAllViews();

@@ -106,7 +106,7 @@ TEST_F(StepHistory, ASaveTellsWhichStatesDifferFromTheFile)
 {
     history.Note(kA, With(2));
     history.Note(kB, With(1));
-    history.Saved("x.orreva.xml", With(1).fields);
+    history.Saved("x.orreva.xml", With(1).fields, {});
     RecordState state = history.Undo(With(1));
     EXPECT_EQ(1, state.modified);
     state = history.Undo(state);

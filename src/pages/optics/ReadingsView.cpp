@@ -25,7 +25,9 @@ void CReadingsView::WalkDown()
 {
     const QModelIndex at = currentIndex();
     const QModelIndex below = at.siblingAtRow(at.row() + 1);
-    const QModelIndex next = below.isValid() ? below : at.sibling(0, at.column() + 1);
+    // The zone that waits to be filled begins with its radius.
+    const bool measured = at.column() == 0 || !below.siblingAtColumn(0).data().toString().isEmpty();
+    const QModelIndex next = below.isValid() && measured ? below : at.sibling(0, at.column() + 1);
     if (IsEditable(next)) {
         setCurrentIndex(next);
     }
