@@ -533,7 +533,8 @@ TEST_F(MainFrame, HelpOpensItsPages)
         EXPECT_EQ(helpPages[1], helpPages[static_cast<std::size_t>(i)]);
     }
     EXPECT_NE(helpPages[0], helpPages[1]);
-    // A build without the manual says so; where it is built, the page is in the browser and nothing need be said.
+    // A build without the manual says so; where it is built, the page is in the browser and nothing need be
+    // said.
     const bool missing = !QFileInfo::exists(helpPages[3].toLocalFile());
     EXPECT_EQ(missing ? UnopenedHelpText(helpPages[3], kEnglish) : QString(),
               app->Frame().statusBar()->currentMessage());
