@@ -1,4 +1,5 @@
 #include "lib/config/LibConfig.h"
+#include "lib/config/SupportValues.h"
 #include "lib/files/FileBytes.h"
 #include "lib/platform/LibSup.h"
 #include "lib/text/CharTools.h"
@@ -152,7 +153,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string section = TakeLine(input);
     const std::string name = TakeLine(input);
     const std::string value = TakeLine(input);
-    Require(ReplaceFile(Path().c_str(), input), "the file is not written");
+    Require(static_cast<bool>(ReplaceFile(Path().c_str(), input)), "the file is not written");
 
     const char* const given = section == "-" ? nullptr : section.c_str(); // before any section
     ReadAll(given, name.c_str());

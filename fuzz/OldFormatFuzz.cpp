@@ -7,7 +7,16 @@
 #include "lib/text/LogSink.h"
 #include "support/SilentHost.h"
 
-// Any bytes as an old file; what came in must go out by every way that writes a telescope.
+// Any bytes as an old file; what came in must go out by every way that writes a telescope. The exports, which
+// take most of the time, are for those whose last byte says so: it stands behind all fields or is part of
+// them.
+
+namespace {
+
+bool IsExported(const std::uint8_t* data, std::size_t size) { return size > 0 && data[size - 1] % 16 == 0; }
+
+} // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     SetLogSink(nullptr);
@@ -18,6 +27,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     COrrevaData again;
     ReadTelescope(XmlScanner::FromText(WriteTelescope(*document.active_record)), again);
+    if (!IsExported(data, size)) {
+        return 0;
+    }
     document.Recalculate();
     FtaExport(*document.active_record);
     OsloExport(*document.active_record);

@@ -34,6 +34,12 @@
  <message><source>E&amp;xit</source><translation>&amp;Beenden</translation></message>
  <message><source>Leave the program</source><comment>prompt</comment><translation>Verlässt das Programm</translation></message>
  <message><source>Exit</source><comment>tooltip</comment><translation>Beenden</translation></message>
+ <message><source>Earlier designs...</source><translation>Frühere Entwürfe...</translation></message>
+ <message><source>Copies of designs that were not saved</source><comment>prompt</comment><translation>Kopien von Entwürfen, die nicht gesichert wurden</translation></message>
+ <message><source>Undo	Ctrl+Z</source><translation>Rückgängig	Strg+Z</translation></message>
+ <message><source>Take back the last step</source><comment>prompt</comment><translation>Nimmt den letzten Schritt zurück</translation></message>
+ <message><source>Redo	Ctrl+Y</source><translation>Wiederholen	Strg+Y</translation></message>
+ <message><source>Do the step again that was taken back</source><comment>prompt</comment><translation>Wiederholt den zurückgenommenen Schritt</translation></message>
  <message><source>Properties	Strg+E</source><translation>Eigenschaften	Strg+E</translation></message>
  <message><source>Edit Properties</source><comment>prompt</comment><translation>Eigenschaften des Teleskopes bearbeiten</translation></message>
  <message><source>Edit</source><comment>tooltip</comment><translation>Bearbeiten</translation></message>
@@ -52,6 +58,14 @@
  <message><source>Inch/mm Calculator</source><translation>Zoll Rechner</translation></message>
  <message><source>Polygon Calculator</source><translation>Mehreck Rechner</translation></message>
  <message><source>Sector Calculator</source><translation>Kreisausschnitt Rechner</translation></message>
+ <message><source>Design check	F8</source><translation>Entwurf prüfen	F8</translation></message>
+ <message><source>Compare designs...</source><translation>Entwürfe vergleichen...</translation></message>
+ <message><source>This design beside that of a file</source><comment>prompt</comment><translation>Dieser Entwurf neben dem einer Datei</translation></message>
+ <message><source>Variation...</source><translation>Variation...</translation></message>
+ <message><source>What a parameter does to the values of the design</source><comment>prompt</comment><translation>Was ein Parameter an den Werten des Entwurfs bewirkt</translation></message>
+ <message><source>What is wrong with the design, and what to do</source><comment>prompt</comment><translation>Was am Entwurf nicht stimmt, und was zu tun ist</translation></message>
+ <message><source>Illumination...</source><translation>Ausleuchtung...</translation></message>
+ <message><source>The exact light over the field, and what other secondaries would give</source><comment>prompt</comment><translation>Das genaue Licht über dem Feld, und was andere Fangspiegel ergäben</translation></message>
  <message><source>Orreva Support Forum</source><translation>Orreva Diskussionsforum</translation></message>
  <message><source>&amp;Help Themes</source><translation>&amp;Hilfethemen</translation></message>
  <message><source>List the help themes</source><comment>prompt</comment><translation>Zeigt die Hilfethemen</translation></message>

@@ -7,6 +7,7 @@
  <message><source>Degrees</source><translation>Grad</translation></message>
  <message><source>Diameter of minor Axis (mm)</source><translation>Durchmesser der kleinen Achse</translation></message>
  <message><source>Results</source><translation>Ergebnisse</translation></message>
+ <message><source>Curve...</source><translation>Kurve...</translation></message>
  <message><source>Show Details</source><translation>Details einblenden</translation></message>
 </context>
 </TS>

@@ -4,17 +4,24 @@
 #include "app/MyDialogBar.h"
 #include "app/Printing.h"
 #include "app/ThreadLocale.h"
+#include "app/ToolWindows.h"
 #include "document/Commands.h"
+#include "document/WhatIfBar.h"
 #include "lib/text/Language.h"
 #include "pages/dialogs/AboutBox.h"
 #include "pages/sheet/Help.h"
+#include "painting/QtText.h"
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
 #include "views/ProgramIcon.h"
 
 #include "ui_MainFrame.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QFile>
+#include <QLabel>
+#include <QMimeData>
 #include <QShortcut>
 #include <QSplitter>
 
@@ -28,6 +35,21 @@ constexpr int kPaneWidth = 260;
 constexpr int kFirstViewStyle = 59408;
 constexpr int kLastViewStyle = 59413;
 
+/// A copy of a modified record is brought up to date so often, in milliseconds.
+constexpr int kKeepEvery = 400;
+
+/// The files that are dragged, as bytes of the file system.
+std::vector<std::string> PathsOf(const QMimeData& data)
+{
+    std::vector<std::string> paths;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) {
+            paths.push_back(QFile::encodeName(url.toLocalFile()).toStdString());
+        }
+    }
+    return paths;
+}
+
 bool IsViewStyle(int id) { return id >= kFirstViewStyle && id <= kLastViewStyle; }
 
 } // namespace
@@ -40,8 +62,11 @@ CMainFrame::CMainFrame(COrrevaDoc& doc, const CThreadLocale& locale)
     CreatePanes();
     BindActions();
     BindAccelerators();
+    m_toolWindows = new CToolWindows(*this, *m_ui->statusBar, *m_dialogBar, m_document);
     SetDocumentTitle({});
-    UpdateActions();
+    m_keeper.setInterval(kKeepEvery);
+    connect(&m_keeper, &QTimer::timeout, this, &CMainFrame::KeepLiveCopy);
+    Refresh();
 }
 
 CMainFrame::~CMainFrame() = default;
@@ -50,7 +75,30 @@ void CMainFrame::CreateBars()
 {
     m_dialogBar = new CMyDialogBar(m_document, m_ui->dialogBarBand);
     m_ui->dialogBarBand->addWidget(m_dialogBar);
+    connect(m_dialogBar, &CMyDialogBar::Changed, this, &CMainFrame::Refresh);
+    CreateStatusFields();
     new KeyIndicators(*m_ui->statusBar);
+}
+
+/// The message field at the left, which gives way to the prompts of menus while they show; the trial; whether
+/// the design is saved.
+void CMainFrame::CreateStatusFields()
+{
+    const auto add = [this](const char* name) {
+        auto* const label = new QLabel(m_ui->statusBar);
+        label->setObjectName(name);
+        label->setTextFormat(Qt::PlainText);
+        return label;
+    };
+    m_message = add("message");
+    // A long path is cut at the edge of the window, and does not widen it.
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_message->setMinimumWidth(1);
+    m_trial = add("trial");
+    m_state = add("state");
+    m_ui->statusBar->addWidget(m_message, 1);
+    m_ui->statusBar->addPermanentWidget(m_trial);
+    m_ui->statusBar->addPermanentWidget(m_state);
 }
 
 void CMainFrame::CreatePanes()
@@ -119,7 +167,68 @@ void CMainFrame::UpdateAllViews()
 {
     m_left->update();
     m_right->update();
+    Refresh();
+    emit ViewsUpdated();
+}
+
+void CMainFrame::Refresh()
+{
     UpdateActions();
+    m_dialogBar->Follow();
+    UpdateStatusFields();
+    if (m_document.active_record->IsModified() != 0 && !m_keeper.isActive()) {
+        m_keeper.start();
+    }
+}
+
+void CMainFrame::ShowStatus(const QString& text)
+{
+    m_message->setText(text);
+    m_message->setToolTip(text);
+}
+
+void CMainFrame::UpdateStatusFields()
+{
+    const auto show = [](QLabel& label, const std::string& text) {
+        label.setText(ToQString(text));
+        label.setVisible(!text.empty());
+    };
+    show(*m_trial, BarTrialText(m_document, g_nLanguage));
+    show(*m_state, m_document.StateText(g_nLanguage));
+}
+
+void CMainFrame::KeepLiveCopy()
+{
+    m_document.KeepLiveCopy();
+    if (m_document.active_record->IsModified() == 0) {
+        m_keeper.stop();
+    }
+}
+
+/// While a dialog runs, the record is its own.
+bool CMainFrame::IsBusy() const { return m_closing || QApplication::activeModalWidget() != nullptr; }
+
+void CMainFrame::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!IsBusy() && !PathsOf(*event->mimeData()).empty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void CMainFrame::dropEvent(QDropEvent* event)
+{
+    const std::vector<std::string> paths = PathsOf(*event->mimeData());
+    if (IsBusy() || paths.empty()) {
+        return;
+    }
+    event->acceptProposedAction();
+    // The program that the files come from waits for the end of the drop, and opening may ask something.
+    QTimer::singleShot(0, this, [this, paths] {
+        if (!IsBusy()) {
+            m_document.OpenDropped(paths);
+            Refresh();
+        }
+    });
 }
 
 void CMainFrame::UpdateActions()
@@ -150,17 +259,17 @@ void CMainFrame::OnCommand(int id)
     if (!m_active->OnCommand(id) && !RunCommand(id, m_document)) {
         RunDesktopCommand(id);
     }
-    UpdateActions();
+    Refresh();
 }
 
 void CMainFrame::RunDesktopCommand(int id)
 {
     switch (id) {
     case command_id::kPrint:
-        PrintPane(*m_active, this);
+        PrintPane(*m_active, m_document, this);
         break;
     case command_id::kPrintPreview:
-        PreviewPane(*m_active, this);
+        PreviewPane(*m_active, m_document, this);
         break;
     case command_id::kPrintSetup:
         SetUpPrinter(this);
@@ -188,8 +297,20 @@ void CMainFrame::RunDesktopCommand(int id)
     case command_id::kAbout:
         CAboutBox(m_threadLocale.IsGerman(), this).exec();
         break;
+    case command_id::kDesignCheck:
+        m_toolWindows->OpenDesignCheck();
+        break;
+    case command_id::kCompare:
+        m_toolWindows->OpenCompare();
+        break;
+    case command_id::kVariation:
+        m_toolWindows->OpenVariation();
+        break;
+    case command_id::kIllumination:
+        m_toolWindows->OpenIllumination();
+        break;
     default:
-        break; // the toolkit's save and the view styles: nothing
+        break; // the view styles: nothing
     }
 }
 

@@ -3,16 +3,20 @@
 #include "views/Pane.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include <memory>
 
 class CLeftView;
 class CMyDialogBar;
 class CThreadLocale;
+class CToolWindows;
 class COrrevaDoc;
 class COrrevaView;
 class KeyIndicators;
 class QAction;
+class QLabel;
+class QMimeData;
 class QSplitter;
 
 namespace Ui {
@@ -31,8 +35,12 @@ public:
 
     /// The caption is the document's title with " - Orreva" behind it; "Orreva" for an empty title.
     void SetDocumentTitle(const QString& title);
-    /// Repaints both panes and refreshes what the actions show.
+    /// Repaints both panes and refreshes what actions, bar and status bar show.
     void UpdateAllViews();
+    /// The message of the status bar, empty for none.
+    void ShowStatus(const QString& text);
+    /// Refreshes what actions, bar and status bar show; no pane is repainted.
+    void Refresh();
     /// Keeps panes and what-if bar from the record: they neither read nor write it.
     void Freeze(bool frozen);
 
@@ -45,16 +53,24 @@ public:
 
 signals:
     void LanguageChosen(int language);
+    /// All views have been told to repaint.
+    void ViewsUpdated();
 
 protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void CreateBars();
+    void CreateStatusFields();
     void CreatePanes();
     void BindActions();
     void BindAccelerators();
     void UpdateActions();
+    void UpdateStatusFields();
+    void KeepLiveCopy();
+    bool IsBusy() const;
     void UpdateViewStyles(QAction& action, int id);
     void RunDesktopCommand(int id);
 
@@ -64,6 +80,11 @@ private:
     CLeftView* m_left = nullptr;
     COrrevaView* m_right = nullptr;
     CMyDialogBar* m_dialogBar = nullptr;
+    CToolWindows* m_toolWindows = nullptr;
     CPane* m_active = nullptr;
+    QLabel* m_message = nullptr;
+    QLabel* m_trial = nullptr;
+    QLabel* m_state = nullptr;
+    QTimer m_keeper; ///< runs while the record is modified
     bool m_closing = false;
 };

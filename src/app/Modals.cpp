@@ -14,12 +14,17 @@
 
 #include <QDialog>
 
+#include <type_traits>
+
 namespace {
 
 template <typename Dialog>
 bool Run(COrrevaDoc& document, QWidget* parent)
 {
     Dialog dialog(document, parent);
+    if constexpr (std::is_base_of_v<CPropertySheet, Dialog>) {
+        QObject::connect(&dialog, &CPropertySheet::Applied, [&document] { document.NoteApply(); });
+    }
     return dialog.exec() == QDialog::Accepted;
 }
 

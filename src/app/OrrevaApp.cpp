@@ -3,9 +3,11 @@
 #include "app/HelpPages.h"
 #include "app/MainFrame.h"
 #include "lib/text/CodePage.h"
+#include "lib/text/FormatText.h"
 #include "lib/text/Language.h"
 #include "lib/text/Log.h"
 #include "pages/sheet/Help.h"
+#include "painting/QtText.h"
 #include "views/ProgramIcon.h"
 
 #include <QApplication>
@@ -14,8 +16,12 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace {
+
+constexpr Bilingual kLanguageNotStored{"The language could not be stored in %s.",
+                                       "Die Sprache konnte nicht in %s gespeichert werden."};
 
 constexpr const char* kLanguageEntry = "Settings/Language";
 constexpr int kNoLanguage = 99;
@@ -66,6 +72,7 @@ bool COrrevaApp::InitInstance(const QStringList& arguments)
 {
     ChooseLanguage();
     m_document = std::make_unique<COrrevaDoc>(m_host);
+    m_document->KeepCopies(&m_copies);
     m_frame = std::make_unique<CMainFrame>(*m_document, m_threadLocale);
     QObject::connect(m_frame.get(), &CMainFrame::LanguageChosen, m_frame.get(),
                      [this](int language) { OnLanguage(language); });
@@ -75,7 +82,19 @@ bool COrrevaApp::InitInstance(const QStringList& arguments)
         return false;
     }
     m_frame->showMaximized();
+    m_frame->Refresh();
+    QTimer::singleShot(0, m_frame.get(), [this] { ShowNews(); });
     return true;
+}
+
+/// What a crash or a failed save left behind is offered once, over the window as it opens always.
+void COrrevaApp::ShowNews()
+{
+    if (const auto copy = m_copies.TakeNews()) {
+        m_document->BeginCommand();
+        m_document->ChooseEarlierDesign(copy->file);
+        m_frame->Refresh();
+    }
 }
 
 void COrrevaApp::ChooseLanguage()
@@ -96,7 +115,7 @@ bool COrrevaApp::ProcessShellCommand(const QStringList& arguments)
 {
     for (const QString& word : arguments) {
         if (!word.startsWith('-')) {
-            return m_document->OpenOldFormat(QFile::encodeName(word).constData());
+            return m_document->OpenByContent(QFile::encodeName(word).constData());
         }
     }
     return true;
@@ -106,6 +125,16 @@ void COrrevaApp::OnLanguage(int language)
 {
     m_host.ShowMessage(language == kGerman ? "Beim nächsten Start wird Orreva Deutsch verwenden."_cp1252
                                            : "Orreva will use English on it's next start.");
-    Profile().setValue(kLanguageEntry, language);
+    QSettings profile = Profile();
+    profile.setValue(kLanguageEntry, language);
+    profile.sync();
+    if (profile.status() == QSettings::NoError) {
+        m_document->Status().Succeed(StatusTopic::Language, {});
+    } else {
+        const std::string file = FromQString(profile.fileName());
+        m_document->Status().Fail(StatusTopic::Language,
+                                  FormatText(kLanguageNotStored.In(g_nLanguage), file.c_str()));
+    }
+    m_document->ShowStatus();
     m_threadLocale.Set(language);
 }

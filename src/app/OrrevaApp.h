@@ -1,9 +1,11 @@
 #pragma once
 
+#include "app/FieldHabits.h"
 #include "app/HelpKey.h"
 #include "app/QtHost.h"
 #include "app/ThreadLocale.h"
 #include "document/OrrevaDoc.h"
+#include "document/RescueCopies.h"
 
 #include <QSettings>
 #include <QStringList>
@@ -37,10 +39,13 @@ public:
 private:
     void ChooseLanguage();
     bool ProcessShellCommand(const QStringList& arguments);
+    void ShowNews();
 
     CThreadLocale m_threadLocale;
     CQtHost m_host;
     HelpKey m_helpKey;
+    FieldHabits m_fieldHabits;
+    RescueCopies m_copies;
     std::unique_ptr<COrrevaDoc> m_document;
     std::unique_ptr<CMainFrame> m_frame;
 };

@@ -4,17 +4,23 @@
 #include "app/Modals.h"
 #include "document/FileMasks.h"
 #include "document/OrrevaDoc.h"
+#include "lib/files/FileQueries.h"
+#include "lib/platform/Debugger.h"
 #include "lib/text/Language.h"
+#include "pages/dialogs/EarlierDesignsDialog.h"
 #include "pages/dialogs/QuickNewDialog.h"
 #include "pages/dialogs/RaytracingSettingsDialog.h"
 #include "painting/QtText.h"
+#include "windows/IlluminationWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include <csignal>
@@ -24,7 +30,7 @@
 namespace {
 
 /// A question takes its buttons alone for an answer: neither the escape key nor the window's close button
-/// stands for one that loses data. A box that only tells goes by either.
+/// stands for one that loses data. A box that only tells, or has a button for them, goes by either.
 class MessageBox : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;
@@ -46,7 +52,7 @@ protected:
     }
 
 private:
-    bool IsQuestion() const { return buttons().size() > 1; }
+    bool IsQuestion() const { return buttons().size() > 1 && escapeButton() == nullptr; }
 };
 
 /// The lines of a message stay lines; longer ones than this are broken between words.
@@ -66,9 +72,13 @@ void KeepLines(QMessageBox& box)
 }
 
 int Box(QWidget* owner, QMessageBox::Icon icon, const QString& title, const QString& text,
-        QMessageBox::StandardButtons buttons)
+        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual = QMessageBox::NoButton)
 {
     MessageBox box(icon, title, text, buttons, owner);
+    if (usual != QMessageBox::NoButton) {
+        box.setDefaultButton(usual);
+        box.setEscapeButton(usual);
+    }
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     KeepLines(box);
@@ -85,6 +95,56 @@ QStringList NameFilters(const char* pipes)
         filters << pieces[i] + '(' + (pieces[i + 1] == "*.*" ? "*" : pieces[i + 1]) + ')';
     }
     return filters;
+}
+
+/// A file dialog that completes the name typed for saving before the toolkit asks whether to replace a file
+/// of that name.
+class FileChooser : public QFileDialog {
+public:
+    FileChooser(const FileDialog& dialog, QWidget* owner) : QFileDialog(owner), mask(dialog)
+    {
+        setAcceptMode(mask.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+        // A name that is typed and does not exist is the document's to tell.
+        setFileMode(QFileDialog::AnyFile);
+        setOption(QFileDialog::HideNameFilterDetails);
+        if (const QString title = ToQString(mask.title.In(g_nLanguage)); !title.isEmpty()) {
+            setWindowTitle(title);
+        }
+        setNameFilters(NameFilters(mask.filter));
+        selectFile(mask.file_name);
+    }
+
+    /// What the dialog's answer stands for, bytes of the file system.
+    std::string Path() const { return Completed(selectedFiles().value(0)); }
+
+protected:
+    void accept() override
+    {
+        auto* const name = findChild<QLineEdit*>("fileNameEdit");
+        if (mask.saving && name != nullptr && !name->text().isEmpty() &&
+            !QFileInfo(directory(), name->text()).isDir()) {
+            name->setText(QFile::decodeName(Completed(name->text()).c_str()));
+        }
+        QFileDialog::accept();
+    }
+
+private:
+    std::string Completed(const QString& path) const
+    {
+        const bool first = selectedNameFilter() == nameFilters().value(0);
+        return WithEnding(mask, QFile::encodeName(path).toStdString(), first);
+    }
+
+    const FileDialog& mask;
+};
+
+/// The toolkit's own question.
+bool MayReplace(QFileDialog& dialog, const std::string& path)
+{
+    const QString name = QFileInfo(QFile::decodeName(path.c_str())).fileName();
+    return QMessageBox::warning(&dialog, dialog.windowTitle(),
+                                QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(name),
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 /// Keeps the main window from the record while it lives.
@@ -152,21 +212,17 @@ void CQtHost::UpdateAllViews()
 
 std::string CQtHost::AskPath(const FileDialog& mask)
 {
-    QFileDialog dialog(Owner());
-    dialog.setAcceptMode(mask.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    // A name that is typed and does not exist is the document's to tell.
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    if (const QString title = ToQString(mask.title.In(g_nLanguage)); !title.isEmpty()) {
-        dialog.setWindowTitle(title);
+    FileChooser dialog(mask, Owner());
+    while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const std::string path = dialog.Path();
+        // A dialog of the desktop's own knows nothing of the ending, and has not asked for the completed
+        // name.
+        const bool completed = path != QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+        if (!mask.saving || !completed || FileExists(path.c_str()) == 0 || MayReplace(dialog, path)) {
+            return path;
+        }
     }
-    dialog.setNameFilters(NameFilters(mask.filter));
-    dialog.setDefaultSuffix(QString::fromStdString(FilterEnding(mask)));
-    dialog.selectFile(mask.file_name);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return {};
-    }
-    return WithEnding(mask, QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString());
+    return {};
 }
 
 bool CQtHost::AskQuickNew(QuickNewTexts& texts)
@@ -191,10 +247,40 @@ bool CQtHost::RunModal(Modal modal)
     return m_document != nullptr && RunModalDialog(modal, *m_document, Owner());
 }
 
+void CQtHost::ShowIllumination(const IlluminationStops& stops, double wanted)
+{
+    // A child of the sheet that runs, which would keep any other window from the user, and gone with it.
+    QWidget* const owner = Owner();
+    if (m_illumination == nullptr || m_illumination->parentWidget() != owner) {
+        delete m_illumination;
+        m_illumination = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").eyepieces, owner);
+    }
+    const QString title =
+        m_document == nullptr ? QString() : ToQString(m_document->active_record->GetTitle());
+    m_illumination->ShowDesign(stops, wanted, title);
+    m_illumination->show();
+    m_illumination->raise();
+    m_illumination->activateWindow();
+}
+
+void CQtHost::ShowStatus(const char* text)
+{
+    if (m_frame != nullptr) {
+        m_frame->ShowStatus(ToQString(text));
+    }
+}
+
+std::optional<std::size_t> CQtHost::AskEarlierDesign(std::span<const RescueCopy> copies,
+                                                     std::optional<std::size_t> selected)
+{
+    CEarlierDesignsDialog dialog(copies, selected, Owner());
+    return dialog.exec() == QDialog::Accepted ? dialog.Chosen() : std::nullopt;
+}
+
 AssertAnswer CQtHost::AskAssert(const char* title, const char* text)
 {
     switch (Box(Owner(), QMessageBox::Critical, ToQString(title), ToQString(text),
-                QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore)) {
+                QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore, QMessageBox::Ignore)) {
     case QMessageBox::Abort:
         return AssertAnswer::Abort;
     case QMessageBox::Retry:
@@ -212,7 +298,12 @@ void CQtHost::CloseMainWindow()
     }
 }
 
-void CQtHost::BreakIntoDebugger() { std::raise(SIGTRAP); }
+void CQtHost::BreakIntoDebugger()
+{
+    if (IsDebuggerAttached()) { // without one the signal would end the program
+        std::raise(SIGTRAP);
+    }
+}
 
 void CQtHost::FatalAppExit(const char* text)
 {

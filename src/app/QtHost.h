@@ -3,6 +3,9 @@
 #include "document/DocumentHost.h"
 #include "lib/text/Assertion.h"
 
+#include <QPointer>
+
+class CIlluminationWindow;
 class QWidget;
 class CMainFrame;
 class COrrevaDoc;
@@ -25,6 +28,10 @@ public:
     bool AskQuickNew(QuickNewTexts& texts) override;
     bool AskRaytracingSettings(std::uint8_t miss_in_grey) override;
     bool RunModal(Modal modal) override;
+    void ShowIllumination(const IlluminationStops& stops, double wanted) override;
+    void ShowStatus(const char* text) override;
+    std::optional<std::size_t> AskEarlierDesign(std::span<const RescueCopy> copies,
+                                                std::optional<std::size_t> selected) override;
 
     AssertAnswer AskAssert(const char* title, const char* text) override;
     void CloseMainWindow() override;
@@ -35,6 +42,8 @@ public:
 
 private:
     QWidget* Owner() const;
+
+    QPointer<CIlluminationWindow> m_illumination; ///< of the dialog that runs
 
     CMainFrame* m_frame = nullptr;
     COrrevaDoc* m_document = nullptr;

@@ -24,7 +24,7 @@ public:
     int Finish()
     {
         const int status = m_output.Finish();
-        return m_numbers ? status : kFailed;
+        return m_numbers || m_output.IsReaderGone() ? status : kFailed;
     }
 
 private:
@@ -55,11 +55,11 @@ std::optional<std::string> ReadLine()
 int CalcVerb(const std::vector<std::string>& expressions, const std::string& outputPath)
 {
     Answers answers(outputPath);
-    for (const std::string& expression : expressions) {
-        answers.Give(expression);
+    bool more = true;
+    for (std::size_t i = 0; more && i < expressions.size(); ++i) {
+        more = answers.Give(expressions[i]);
     }
     if (expressions.empty()) {
-        bool more = true;
         for (auto line = ReadLine(); more && line; line = ReadLine()) {
             more = answers.Give(*line);
         }

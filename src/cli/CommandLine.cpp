@@ -6,22 +6,26 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
 namespace {
 
-constexpr std::uint32_t kTelescopeVerbs = kReport | kRays | kDraw | kSaveVerb | kExport;
-constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc;
+constexpr std::uint32_t kTelescopeVerbs =
+    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck | kFigureVerb;
+constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kCompare | kRescue;
+constexpr std::uint32_t kTableVerbs = kReport | kValues | kSweep | kCompare | kCheck | kFigureVerb |
+                                      kRescue; ///< those that print tables in several forms
 
 struct VerbName {
     std::string_view name;
     Verb verb;
 };
 
-constexpr VerbName kVerbs[] = {{"report", kReport}, {"rays", kRays},     {"draw", kDraw}, {"save", kSaveVerb},
-                               {"import", kImport}, {"export", kExport}, {"calc", kCalc}};
+constexpr VerbName kVerbs[] = {{"report", kReport},   {"rays", kRays},     {"draw", kDraw},
+                               {"save", kSaveVerb},   {"import", kImport}, {"export", kExport},
+                               {"calc", kCalc},       {"values", kValues}, {"sweep", kSweep},
+                               {"compare", kCompare}, {"check", kCheck},   {"figure", kFigureVerb},
+                               {"rescue", kRescue}};
 
 struct Option {
     std::string_view name;
@@ -34,6 +38,7 @@ constexpr Option kOptions[] = {
     {"--version", false, kAllVerbs},
     {"--language", true, kAllVerbs},
     {"-o", true, kAllVerbs},
+    {"--format", true, kTableVerbs},
     {"--diameter", true, kTelescopeVerbs},
     {"--focal-length", true, kTelescopeVerbs},
     {"--title", true, kTelescopeVerbs},
@@ -45,7 +50,14 @@ constexpr Option kOptions[] = {
     {"--edge", true, kReport},
     {"--template", true, kReport},
     {"--method", true, kReport},
-    {"--source", true, kReport},
+    {"--source", true, kReport | kFigureVerb | kDraw},
+    {"--readings", true, kFigureVerb | kDraw},
+    {"--conic", true, kFigureVerb | kDraw},
+    {"--wavelength", true, kFigureVerb | kDraw},
+    {"--only", true, kValues},
+    {"--vary", true, kSweep},
+    {"--show", true, kSweep},
+    {"--jobs", true, kSweep},
     {"--mode", true, kRays | kDraw},
     {"--pointer", true, kRays | kDraw},
     {"--hide-lost", false, kRays},
@@ -157,8 +169,7 @@ void UsageError(const std::string& reason, const std::string& word)
     std::string line = "orreva-cli: " + reason + " " + word;
     std::ranges::replace_if(
         line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
-    std::fprintf(stderr, "%s\n", line.c_str());
-    std::exit(2);
+    throw UsageFault{line};
 }
 
 std::size_t ChoiceOf(const std::string& option, const std::string& value,

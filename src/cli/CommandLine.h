@@ -16,6 +16,12 @@ enum Verb : std::uint32_t {
     kImport = 16,
     kExport = 32,
     kCalc = 64,
+    kValues = 128,
+    kSweep = 256,
+    kCompare = 512,
+    kCheck = 1024,
+    kFigureVerb = 2048,
+    kRescue = 4096,
 };
 
 /// The command line, taken apart: the verb, the words that are no options, and the options in their order.
@@ -32,13 +38,19 @@ struct CommandLine {
     std::vector<std::string> Values(std::string_view option) const;
 };
 
-/// Takes `arguments` (behind the program's name) apart. A word that is not understood ends the program.
+/// Thrown where the command line is not understood. The program ends with status 2 and the line on standard
+/// error.
+struct UsageFault {
+    std::string line; ///< without its end
+};
+
+/// Takes `arguments` (behind the program's name) apart. A word that is not understood is a UsageFault.
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
 
-/// Ends the program with status 2 and one line on standard error that names the word at fault.
+/// Throws a UsageFault whose line names the word at fault.
 [[noreturn]] void UsageError(const std::string& reason, const std::string& word);
 
-// Values that must be understood whole, else the program ends as above ----------------------------------
+// Values that must be understood whole; others are a UsageFault -----------------------------------------
 
 /// The index of a value among `choices`.
 std::size_t ChoiceOf(const std::string& option, const std::string& value,

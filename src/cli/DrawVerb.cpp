@@ -1,6 +1,8 @@
 #include "cli/DrawVerb.h"
 
+#include "cli/Output.h"
 #include "drawing/FieldPicture.h"
+#include "drawing/IlluminationPicture.h"
 #include "drawing/MirrorPanelPicture.h"
 #include "drawing/PolygonPicture.h"
 #include "drawing/RonchiPicture.h"
@@ -8,22 +10,17 @@
 #include "drawing/SectorPicture.h"
 #include "drawing/SummaryPicture.h"
 #include "drawing/TubePanelPicture.h"
+#include "drawing/WavefrontCharts.h"
 #include "lib/files/FileBytes.h"
 #include "lib/text/Numbers.h"
-#include "painting/PainterSurface.h"
+#include "painting/PictureFile.h"
 #include "painting/QtText.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
-#include <QImage>
-#include <QPageSize>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QSvgGenerator>
 
+#include <cerrno>
 #include <clocale>
 #include <ctime>
-#include <functional>
 #include <memory>
 
 namespace {
@@ -80,70 +77,44 @@ void PaintSectorPicture(Surface& surface, const DrawContext& context)
     PaintSector(surface, {options.diameter, options.value, options.type}, context.language);
 }
 
+void PaintIlluminationPicture(Surface& surface, const DrawContext& context)
+{
+    const IlluminationStops stops = ReadIlluminationStops(context.record);
+    const double wanted = context.record.GetWanted100PercentFow();
+    PaintChart(surface, IlluminationChart(stops, wanted, {}, kLightIllumination, context.language),
+               kLightChart);
+}
+
+void PaintSecondaryChoicePicture(Surface& surface, const DrawContext& context)
+{
+    const IlluminationStops stops = ReadIlluminationStops(context.record);
+    const double wanted = context.record.GetWanted100PercentFow();
+    PaintChart(surface, SecondaryChoiceChart(stops, wanted, kLightIllumination, context.language),
+               kLightChart);
+}
+
+void PaintWavefrontPicture(Surface& surface, const DrawContext& context)
+{
+    const WavefrontCurve curve{context.figure, {}};
+    const std::span curves(&curve, context.figure != nullptr ? 1 : 0);
+    const double D = context.record.GetMirrorDiameter();
+    const double wavelength = context.options.figure.wavelength;
+    PaintChart(surface, WavefrontChart(curves, D, wavelength, context.language), kLightChart);
+}
+
 constexpr NamedPicture kPictures[] = {
-    {"section", PaintSectionPicture},      {"summary", PaintSummaryPicture},
-    {"tube-panel", PaintTubePanelPicture}, {"mirror-panel", PaintMirrorPanelPicture},
-    {"field", PaintFieldPicture},          {"ronchi", PaintRonchiPicture},
-    {"polygon", PaintPolygonPicture},      {"sector", PaintSectorPicture},
+    {"section", PaintSectionPicture},
+    {"summary", PaintSummaryPicture},
+    {"tube-panel", PaintTubePanelPicture},
+    {"mirror-panel", PaintMirrorPanelPicture},
+    {"field", PaintFieldPicture},
+    {"ronchi", PaintRonchiPicture},
+    {"polygon", PaintPolygonPicture},
+    {"sector", PaintSectorPicture},
+    {"illumination", PaintIlluminationPicture},
+    {"secondary-choice", PaintSecondaryChoicePicture},
+    {"wavefront", PaintWavefrontPicture},
 };
-
-// Forms of files -----------------------------------------------------------------------------------------
-
-using Paint = std::function<void(QPaintDevice& device)>;
-
-/// Each writes what `paint` paints to `file`, with a title where the form has one; false if it cannot.
-bool WritePng(QBuffer& file, Pixel size, const QString&, const Paint& paint)
-{
-    QImage image(size.x, size.y, QImage::Format_RGB32);
-    if (image.isNull()) {
-        return false;
-    }
-    image.fill(Qt::white);
-    paint(image);
-    return image.save(&file, "PNG");
-}
-
-bool WriteSvg(QBuffer& file, Pixel size, const QString& title, const Paint& paint)
-{
-    constexpr int kPixelsPerInch = 96; // those of style sheets, by which viewers reckon
-    QSvgGenerator generator;
-    generator.setOutputDevice(&file);
-    generator.setSize(QSize(size.x, size.y));
-    generator.setViewBox(QRect(0, 0, size.x, size.y));
-    generator.setResolution(kPixelsPerInch);
-    generator.setTitle(title);
-    paint(generator);
-    return true;
-}
-
-bool WritePdf(QBuffer& file, Pixel size, const QString& title, const Paint& paint)
-{
-    constexpr int kPointsPerInch = 72;
-    QPdfWriter writer(&file);
-    writer.setCreator("Orreva");
-    writer.setTitle(title);
-    writer.setResolution(kPointsPerInch);
-    writer.setPageSize(QPageSize(QSizeF(size.x, size.y), QPageSize::Point, QString(), QPageSize::ExactMatch));
-    writer.setPageMargins(QMarginsF());
-    paint(writer);
-    return true;
-}
-
-struct Form {
-    std::string_view ending;
-    bool (*write)(QBuffer& file, Pixel size, const QString& title, const Paint& paint);
-};
-constexpr Form kForms[] = {{".png", WritePng}, {".svg", WriteSvg}, {".pdf", WritePdf}};
-
-const Form* FormOf(std::string_view path)
-{
-    for (const Form& form : kForms) {
-        if (path.ends_with(form.ending)) {
-            return &form;
-        }
-    }
-    return nullptr;
-}
 
 /// The design's title; the program's name for a picture of none.
 QString TitleOf(const COrrevaData& record)
@@ -199,8 +170,6 @@ const NamedPicture* FindPicture(std::string_view name)
     return nullptr;
 }
 
-bool IsPictureFile(std::string_view path) { return FormOf(path) != nullptr; }
-
 bool IsPictureSize(Pixel size)
 {
     constexpr std::int32_t kLongest = 16384;
@@ -211,16 +180,12 @@ int DrawPicture(const NamedPicture& picture, const DrawContext& context, const s
 {
     const auto toolkit = OpenToolkit();
     const Pixel size = context.options.size;
-    const auto paint = [&](QPaintDevice& device) {
-        QPainter painter(&device);
-        PainterSurface surface(painter, size.x, size.y);
-        picture.paint(surface, context);
-    };
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    if (!FormOf(path)->write(file, size, TitleOf(context.record), paint)) {
+    const auto file = PictureBytes(path, size, TitleOf(context.record),
+                                   [&](Surface& surface) { picture.paint(surface, context); });
+    if (!file) {
         return 1;
     }
-    const QByteArray& bytes = file.data();
-    return ReplaceFile(path.c_str(), {bytes.constData(), static_cast<std::size_t>(bytes.size())}) ? 0 : 1;
+    const std::string_view picture_bytes(file->constData(), static_cast<std::size_t>(file->size()));
+    const SaveOutcome outcome = ReplaceFile(path.c_str(), picture_bytes, CompanionPutAside());
+    return outcome || outcome.error == EPIPE ? 0 : 1; // a reader that has seen enough is no failure
 }

@@ -3,6 +3,8 @@
 #include "cli/ViewOptions.h"
 #include "drawing/Surface.h"
 #include "model/analysis/Summary.h"
+#include "model/optics/Figure.h"
+#include "painting/PictureFile.h"
 
 #include <span>
 #include <string>
@@ -20,6 +22,7 @@ struct DrawOptions : ViewOptions {
     double diameter = 0.0;
     double thickness = 0.0;
     double value = 0.0;
+    FigureSettings figure{}; ///< of the wavefront
 };
 
 /// The options that a picture has without any word: the time seeds the patterns, and the calculators have
@@ -32,6 +35,7 @@ struct DrawContext {
     FullField field; ///< the document's figures after its last recalculation
     int language;
     const DrawOptions& options;
+    const Figure* figure = nullptr; ///< of the picture that shows one; null is none
 };
 
 struct NamedPicture {
@@ -44,8 +48,6 @@ std::span<const NamedPicture> Pictures();
 /// Null if there is none of that name.
 const NamedPicture* FindPicture(std::string_view name);
 
-/// Whether `path` ends in a form that can be written: .png, .svg or .pdf.
-bool IsPictureFile(std::string_view path);
 /// Whether a picture may have this size: 1 to 16384 pixels on each side.
 bool IsPictureSize(Pixel size);
 

@@ -1,5 +1,6 @@
 #include "cli/ExchangeVerbs.h"
 
+#include "cli/Input.h"
 #include "cli/Output.h"
 #include "document/FtaExport.h"
 #include "document/OrrevaDoc.h"
@@ -33,7 +34,8 @@ constexpr ExportForm kExports[] = {{"oslo", ExportOslo}, {"fta", ExportFta}};
 
 int ImportVerb(COrrevaDoc& document, const std::string& old_file, const std::string& output)
 {
-    if (!document.OpenOldFormat(old_file.c_str())) {
+    const auto bytes = ReadInputWord(old_file);
+    if (!bytes || !document.OpenOldBytes(old_file.c_str(), *bytes)) {
         return kFailed;
     }
     return WriteOutput(output, WriteTelescope(*document.active_record));

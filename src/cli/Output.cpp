@@ -1,32 +1,47 @@
 #include "cli/Output.h"
 
+#include "document/RescueCopies.h"
+
+#include <cerrno>
 #include <cstdio>
 
-Output::Output(const std::string& outputPath) : m_path(outputPath)
+Output::Output(const std::string& outputPath) : m_path(outputPath == "-" ? "" : outputPath)
 {
     if (!m_path.empty()) {
-        m_file.emplace(m_path.c_str());
+        m_file.emplace(m_path.c_str(), CompanionPutAside());
     }
+}
+
+bool Output::Check(bool good)
+{
+    if (!good && m_error == 0) {
+        m_error = m_file ? m_file->Outcome().error : errno;
+        m_error = m_error != 0 ? m_error : EIO;
+    }
+    return m_error == 0;
 }
 
 bool Output::Write(std::string_view bytes)
 {
-    m_good = m_good && (m_file ? m_file->Write(bytes)
-                               : std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size());
-    return m_good;
+    return Check(
+        m_error == 0 &&
+        (m_file ? m_file->Write(bytes) : std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size()));
 }
 
-bool Output::Flush()
-{
-    m_good = m_good && (m_file || std::fflush(stdout) == 0);
-    return m_good;
-}
+bool Output::Flush() { return Check(m_error == 0 && (m_file || std::fflush(stdout) == 0)); }
+
+bool Output::IsReaderGone() const { return m_error == EPIPE; }
 
 int Output::Finish()
 {
-    m_good = m_good && (m_file ? m_file->Commit() : std::fflush(stdout) == 0);
-    return m_good ? kDone
-                  : Fail("cannot write " + (m_path.empty() ? std::string("to standard output") : m_path));
+    if (Check(m_error == 0 && (m_file ? m_file->Commit() : std::fflush(stdout) == 0)) || IsReaderGone()) {
+        return kDone;
+    }
+    if (m_path.empty()) {
+        return Fail("cannot write to standard output");
+    }
+    const std::string kept = m_file->Outcome().kept;
+    return Fail("cannot write " + m_path + (kept.empty() ? "" : "; the old file is kept as " + kept));
 }
 
 int WriteOutput(const std::string& path, std::string_view bytes)
@@ -34,6 +49,13 @@ int WriteOutput(const std::string& path, std::string_view bytes)
     Output output(path);
     output.Write(bytes);
     return output.Finish();
+}
+
+PutAside CompanionPutAside()
+{
+    return [](const std::string& path, std::string_view bytes) {
+        return RescueCopies().KeepReplaced(bytes, path);
+    };
 }
 
 int Fail(const std::string& reason)

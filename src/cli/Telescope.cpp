@@ -1,8 +1,9 @@
 #include "cli/Telescope.h"
 
 #include "cli/CommandLine.h"
-#include "cli/Output.h"
-#include "lib/files/FileBytes.h"
+#include "cli/Input.h"
+#include "document/TelescopeFile.h"
+#include "document/XmlScanner.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Numbers.h"
 #include "model/record/RecordFields.h"
@@ -56,6 +57,17 @@ std::vector<Setting> Settings(const CommandLine& words)
     return settings;
 }
 
+/// What the command Open does with a file, for bytes that are read already.
+void OpenText(COrrevaDoc& document, const std::string& path, std::string_view text)
+{
+    COrrevaData& record = *document.active_record;
+    record.Reset();
+    record.LoadBy(path.c_str(),
+                  [text](COrrevaData& opened) { ReadTelescope(XmlScanner::FromText(text), opened); });
+    document.Recalculate();
+    record.SetModified(0);
+}
+
 } // namespace
 
 void TerminalHost::ShowMessage(const char* text)
@@ -70,8 +82,8 @@ bool TerminalHost::AskQuickNew(QuickNewTexts& texts)
     return true;
 }
 
-bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& file, TerminalHost& host,
-                   COrrevaDoc& document)
+std::optional<std::size_t> StartTelescope(const CommandLine& words, const std::optional<std::string>& file,
+                                          TerminalHost& host, COrrevaDoc& document)
 {
     const std::vector<Setting> settings = Settings(words);
     if (file) {
@@ -80,12 +92,11 @@ bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& f
                 UsageError("a file does not go together with", option);
             }
         }
-        if (!ReadFileBytes(file->c_str(), 1)) {
-            Fail("cannot read " + *file);
-            return false;
+        const auto text = ReadInputWord(*file);
+        if (!text) {
+            return std::nullopt;
         }
-        host.path = *file;
-        document.OnFileOpen();
+        OpenText(document, *file, *text);
     } else {
         // What the dialog proposes, with the fields changed that are given.
         QuickNewTexts texts = kQuickNewTexts;
@@ -99,8 +110,15 @@ bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& f
         std::visit(Store{*document.active_record, setting.value, setting.value == kUnset},
                    setting.field->field);
     }
-    if (!settings.empty()) {
+    return settings.size();
+}
+
+bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& file, TerminalHost& host,
+                   COrrevaDoc& document)
+{
+    const auto stored = StartTelescope(words, file, host, document);
+    if (stored.value_or(0) > 0) {
         document.Recalculate();
     }
-    return true;
+    return stored.has_value();
 }

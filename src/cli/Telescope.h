@@ -30,7 +30,13 @@ public:
 };
 
 /// Makes the telescope that the words tell: the quick New dialog's, changed by `--diameter`, `--focal-length`
-/// and `--title`, or the one of `file`; then every `--set` in its order, and one recalculation if there was
-/// any. False, told on standard error, if the file cannot be read; a word at fault ends the program.
+/// and `--title`, or the one of `file`; then stores every `--set` in its order, without a recalculation. The
+/// number of values that were stored; nothing, told on standard error, if the file cannot be read. A word at
+/// fault ends the program.
+std::optional<std::size_t> StartTelescope(const CommandLine& words, const std::optional<std::string>& file,
+                                          TerminalHost& host, COrrevaDoc& document);
+
+/// The same with one recalculation behind the stored values, if there are any. False if the file cannot be
+/// read.
 bool MakeTelescope(const CommandLine& words, const std::optional<std::string>& file, TerminalHost& host,
                    COrrevaDoc& document);

@@ -4,9 +4,11 @@
 #include "cli/CommandLine.h"
 #include "cli/DrawVerb.h"
 #include "cli/ExchangeVerbs.h"
+#include "cli/FigureVerb.h"
 #include "cli/Output.h"
 #include "cli/RaysVerb.h"
-#include "cli/Telescope.h"
+#include "cli/RescueVerb.h"
+#include "cli/VerbTools.h"
 #include "cli/report/Report.h"
 #include "document/TelescopeFile.h"
 #include "drawing/SectionZoom.h"
@@ -14,30 +16,10 @@
 #include "lib/text/Numbers.h"
 
 #include <limits>
-#include <memory>
 
 namespace {
 
 using Limits = std::numeric_limits<std::int32_t>;
-
-std::string OutputPath(const CommandLine& words) { return words.Value("-o").value_or(""); }
-
-/// A document on the terminal.
-struct TerminalDocument {
-    TerminalHost host;
-    COrrevaDoc document{host};
-
-    TerminalDocument() { g_pCurrentDocument = &document; }
-};
-
-/// The file among the plain words from `first` on, if there is one; a second one is a word too many.
-std::optional<std::string> FileWord(const CommandLine& words, std::size_t first)
-{
-    if (words.plain.size() > first + 1) {
-        UsageError("too many words:", words.plain[first + 1]);
-    }
-    return words.plain.size() > first ? std::optional(words.plain[first]) : std::nullopt;
-}
 
 // Each verb understands all of its words before it reads or writes anything.
 // ---------------------------------
@@ -59,7 +41,9 @@ std::vector<const ReportPage*> PagesOf(const CommandLine& words)
     }
     if (pages.empty()) {
         for (const ReportPage& page : ReportPages()) {
-            pages.push_back(&page);
+            if (!page.only_when_named) {
+                pages.push_back(&page);
+            }
         }
     }
     return pages;
@@ -85,6 +69,7 @@ int Report(const CommandLine& words)
 {
     const std::vector<const ReportPage*> pages = PagesOf(words);
     const ZoneOptions zones = ZonesOf(words);
+    const TableFormat format = FormatOf(words);
     const auto file = FileWord(words, 0);
     TerminalDocument terminal;
     if (!MakeTelescope(words, file, terminal.host, terminal.document)) {
@@ -93,6 +78,10 @@ int Report(const CommandLine& words)
     ReportContext context = ContextOf(terminal);
     context.details = words.Has("--details");
     context.zones = zones;
+    if (format != TableFormat::kText) {
+        return WriteOutput(OutputPath(words),
+                           (format == TableFormat::kCsv ? CsvReport : JsonReport)(pages, context));
+    }
     Output output(OutputPath(words));
     WriteReport(pages, context,
                 [&](const std::string& line) { return output.Write(Utf8FromCp1252(line) + '\n'); });
@@ -155,7 +144,8 @@ constexpr PictureOption kPictureOptions[] = {
     {"--mode", "section"},         {"--pointer", "section"},  {"--zoom", "section"},
     {"--scroll", "section"},       {"--extended", "section"}, {"--no-offset", "section"},
     {"--box-and-cage", "section"}, {"--seed", "ronchi"},      {"--type", "polygon", "sector"},
-    {"--thickness", "polygon"},    {"--value", "sector"},
+    {"--thickness", "polygon"},    {"--value", "sector"},     {"--readings", "wavefront"},
+    {"--source", "wavefront"},     {"--conic", "wavefront"},  {"--wavelength", "wavefront"},
 };
 
 void RefuseOptionsOfOthers(const CommandLine& words, std::string_view picture)
@@ -216,7 +206,12 @@ int Draw(const CommandLine& words)
         UsageError("unknown picture", name);
     }
     RefuseOptionsOfOthers(words, name);
-    const DrawOptions options = DrawOptionsOf(words, name);
+    DrawOptions options = DrawOptionsOf(words, name);
+    std::optional<FigureWords> figureWords;
+    if (name == "wavefront") {
+        figureWords = FigureWordsOf(words);
+        options.figure = figureWords->settings;
+    }
     const bool calculator = name == "polygon" || name == "sector";
     const std::string path = OutputPath(words);
     if (!IsPictureFile(path)) {
@@ -229,10 +224,18 @@ int Draw(const CommandLine& words)
         return kFailed;
     }
     const COrrevaDoc& document = terminal.document;
+    std::optional<Figure> figure;
+    if (figureWords) {
+        figure = ReadFigure(*figureWords, *document.active_record);
+        if (!figure) {
+            return kFailed;
+        }
+    }
     const DrawContext context{*document.active_record,
                               {document.field_diameter_100, document.field_angle_100},
                               g_nLanguage,
-                              options};
+                              options,
+                              figure ? &*figure : nullptr};
     return DrawPicture(*picture, context, path) == 0 ? kDone : Fail("cannot write " + path);
 }
 
@@ -275,13 +278,23 @@ int Export(const CommandLine& words)
 
 int Calc(const CommandLine& words) { return CalcVerb(words.plain, OutputPath(words)); }
 
+int Rescue(const CommandLine& words)
+{
+    const TableFormat format = FormatOf(words);
+    const auto number = FileWord(words, 0);
+    return number ? WriteRescueCopy(*number, OutputPath(words)) : ListRescueCopies(format, OutputPath(words));
+}
+
 struct Entry {
     Verb verb;
     int (*run)(const CommandLine& words);
 };
 
-constexpr Entry kEntries[] = {{kReport, Report}, {kRays, Rays},     {kDraw, Draw}, {kSaveVerb, Save},
-                              {kImport, Import}, {kExport, Export}, {kCalc, Calc}};
+constexpr Entry kEntries[] = {{kReport, Report},       {kRays, Rays},         {kDraw, Draw},
+                              {kSaveVerb, Save},       {kImport, Import},     {kExport, Export},
+                              {kCalc, Calc},           {kValues, ValuesVerb}, {kSweep, SweepVerb},
+                              {kCompare, CompareVerb}, {kCheck, CheckVerb},   {kFigureVerb, FigureVerb},
+                              {kRescue, Rescue}};
 
 } // namespace
 

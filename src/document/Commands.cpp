@@ -1,5 +1,7 @@
 #include "document/Commands.h"
 
+#include "lib/text/CodePage.h"
+
 #include <algorithm>
 
 namespace {
@@ -10,9 +12,10 @@ using enum Enabled;
 
 constexpr Command Desktop(std::int32_t command, Enabled enabled) { return {command, enabled}; }
 
-constexpr Command Opens(std::int32_t command, Enabled enabled, Modal modal)
+constexpr Command Opens(std::int32_t command, Enabled enabled, Modal modal,
+                        Bilingual step = {nullptr, nullptr})
 {
-    return {.id = command, .enabled = enabled, .modal = modal};
+    return {.id = command, .enabled = enabled, .modal = modal, .step = step};
 }
 
 constexpr Command Switch(std::int32_t command, Enabled enabled, void (Doc::*action)(),
@@ -35,14 +38,19 @@ constexpr Command kCommands[] = {
     Desktop(id::kPrintSetup, Always),
     Desktop(id::kRecentFile, Never),
     Desktop(id::kExit, Always),
+    {id::kEarlierDesigns, Always, &Doc::OnEarlierDesigns},
+    {id::kUndo, Undoable, &Doc::OnUndo},
+    {id::kRedo, Redoable, &Doc::OnRedo},
     {id::kProperties, Loaded, &Doc::OnProperties},
     {id::kTubeProperties, Loaded, &Doc::OnTubeProperties},
     {id::kCentreMarks, Loaded, &Doc::OnCentreMarks},
-    Opens(id::kArtificialStar, Loaded, Modal::ArtificialStar),
-    Opens(id::kFoucaultTest, Loaded, Modal::FoucaultSheet),
-    Opens(id::kMatchingRonchi, Loaded, Modal::RonchiSheet),
+    Opens(id::kArtificialStar, Loaded, Modal::ArtificialStar,
+          {"Artificial Star", "Künstlicher Stern"_cp1252}),
+    Opens(id::kFoucaultTest, Loaded, Modal::FoucaultSheet, {"Foucault Test", "Foucault Test"}),
+    Opens(id::kMatchingRonchi, Loaded, Modal::RonchiSheet, {"Matching Ronchi Test", "Matching Ronchi Test"}),
     Desktop(id::kStartest, Never),
-    Opens(id::kFieldSimulation, Loaded, Modal::FieldSimulation),
+    Opens(id::kFieldSimulation, Loaded, Modal::FieldSimulation,
+          {"Simulation of the Field of View", "Gesichtsfeld-Simulation"}),
     Switch(id::kRaysParallel, Loaded, &Doc::OnRayParallel, &ViewSwitches::ray_parallel),
     Switch(id::kRaysFromFocalPlane, Loaded, &Doc::OnRayFromFocalPlane, &ViewSwitches::ray_from_focal_plane),
     Switch(id::kRaysFromMouse, Loaded, &Doc::OnRayFromMouse, &ViewSwitches::ray_from_mouse),
@@ -57,20 +65,24 @@ constexpr Command kCommands[] = {
     Opens(id::kInchCalculator, Always, Modal::InchCalculator),
     Opens(id::kPolygonCalculator, Always, Modal::PolygonCalculator),
     Opens(id::kSectorCalculator, Always, Modal::SectorCalculator),
+    Desktop(id::kDesignCheck, Loaded),
+    Desktop(id::kCompare, Loaded),
+    Desktop(id::kVariation, Loaded),
+    Desktop(id::kIllumination, Loaded),
     Desktop(id::kForum, Always),
     Desktop(id::kHandbook, Always),
     Desktop(id::kHelpThemes, Always),
     Desktop(id::kContextHelp, Always),
     Desktop(id::kHelp, Always),
     Desktop(id::kAbout, Always),
-    Desktop(id::kToolkitSave, Always),
 };
 
-// Ctrl+O opens the old format, and Ctrl+S is the toolkit's save, which stores nothing. Kept.
+// Ctrl+O opens the old format. Kept.
 constexpr Accelerator kAccelerators[] = {
-    {"Ctrl+N", id::kNewQuick},      {"Ctrl+E", id::kProperties},  {"Ctrl+O", id::kImportOld},
-    {"Ctrl+P", id::kPrint},         {"Ctrl+S", id::kToolkitSave}, {"F1", id::kHelp},
-    {"Shift+F1", id::kContextHelp},
+    {"Ctrl+N", id::kNewQuick}, {"Ctrl+E", id::kProperties},    {"Ctrl+O", id::kImportOld},
+    {"Ctrl+P", id::kPrint},    {"Ctrl+S", id::kSave},          {"Ctrl+Q", id::kExit},
+    {"Ctrl+Z", id::kUndo},     {"Ctrl+Shift+Z", id::kRedo},    {"Ctrl+Y", id::kRedo},
+    {"F1", id::kHelp},         {"Shift+F1", id::kContextHelp}, {"F8", id::kDesignCheck},
 };
 
 } // namespace
@@ -94,6 +106,10 @@ bool IsEnabled(const Command& command, COrrevaDoc& document)
         return document.HasFile();
     case LoadedTruss:
         return document.HasFile() && document.active_record->GetTubeType() > 0;
+    case Undoable:
+        return document.Steps().UndoName() != nullptr;
+    case Redoable:
+        return document.Steps().RedoName() != nullptr;
     case Never:
         break;
     }
@@ -107,6 +123,7 @@ bool IsChecked(const Command& command, const COrrevaDoc& document)
 
 bool RunCommand(std::int32_t command, COrrevaDoc& document)
 {
+    document.BeginCommand();
     const Command* const found = FindCommand(command);
     if (found == nullptr || (found->action == nullptr && !found->modal)) {
         return false;
@@ -114,7 +131,10 @@ bool RunCommand(std::int32_t command, COrrevaDoc& document)
     if (found->action != nullptr) {
         (document.*found->action)();
     } else {
-        document.Host().RunModal(*found->modal);
+        document.RunSheet(*found->modal, found->step);
+        if (found->step.english != nullptr) {
+            document.NoteStep(found->step);
+        }
     }
     return true;
 }

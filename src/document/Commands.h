@@ -10,6 +10,8 @@ enum class Enabled : std::uint8_t {
     Always,
     Loaded,      ///< a telescope is loaded
     LoadedTruss, ///< and its tube is a truss
+    Undoable,    ///< a step can be taken back
+    Redoable,    ///< one that was taken back can be done again
     Never,       ///< no handler at all
 };
 
@@ -24,6 +26,8 @@ struct Command {
     /// The switch that the check mark shows, null for none.
     std::uint8_t ViewSwitches::*check = nullptr;
     bool check_inverted = false;
+    /// What the step of a modal sheet or dialog is called, if it changed something.
+    Bilingual step = {nullptr, nullptr};
 };
 
 namespace command_id {
@@ -57,8 +61,11 @@ inline constexpr std::int32_t kEnglish = 32809;
 inline constexpr std::int32_t kHandbook = 32810;
 inline constexpr std::int32_t kExportFta = 32811;
 inline constexpr std::int32_t kNewDetailed = 32813;
+inline constexpr std::int32_t kDesignCheck = 33021;
+inline constexpr std::int32_t kCompare = 33022;
+inline constexpr std::int32_t kVariation = 33023;
+inline constexpr std::int32_t kIllumination = 33041;
 inline constexpr std::int32_t kImportOld = 57601;
-inline constexpr std::int32_t kToolkitSave = 57603; ///< Ctrl+S: stores nothing
 inline constexpr std::int32_t kPrintSetup = 57606;
 inline constexpr std::int32_t kPrint = 57607;
 inline constexpr std::int32_t kPrintPreview = 57609;
@@ -68,6 +75,9 @@ inline constexpr std::int32_t kExit = 57665;
 inline constexpr std::int32_t kHelpThemes = 57667;
 inline constexpr std::int32_t kContextHelp = 57669;
 inline constexpr std::int32_t kHelp = 57670;
+inline constexpr std::int32_t kUndo = 33001;
+inline constexpr std::int32_t kRedo = 33002;
+inline constexpr std::int32_t kEarlierDesigns = 33003;
 } // namespace command_id
 
 std::span<const Command> Commands();
@@ -86,5 +96,6 @@ const Command* FindCommand(std::int32_t id);
 bool IsEnabled(const Command& command, COrrevaDoc& document);
 bool IsChecked(const Command& command, const COrrevaDoc& document);
 
-/// Runs a command of the document; false if it is the desktop's, disabled by nature or unknown.
+/// Begins a command, and runs it if it is one of the document; false if it is the desktop's, disabled by
+/// nature or unknown.
 bool RunCommand(std::int32_t id, COrrevaDoc& document);

@@ -3,8 +3,14 @@
 #include "lib/text/Language.h"
 #include "model/record/OrrevaData.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <string>
+
+struct IlluminationStops;
+struct RescueCopy;
 
 /// What a file dialog shows: a filter in pipe notation ("Text|*.ext|...||"), the ending that a name without
 /// one gets, the name that is proposed.
@@ -56,4 +62,17 @@ public:
     virtual bool AskRaytracingSettings(std::uint8_t miss_in_grey) = 0;
     /// Runs a sheet or dialog; false if it ended with Cancel.
     virtual bool RunModal(Modal modal) = 0;
+    /// Shows the curve of the exact illumination beside the dialog that runs; `wanted` is the wanted field in
+    /// mm.
+    virtual void ShowIllumination(const IlluminationStops& /*stops*/, double /*wanted*/) {}
+    /// The message of the status bar from now on (code page 1252), empty for none. The bar's other fields the
+    /// desktop reads at each refresh: StateText and BarTrialText.
+    virtual void ShowStatus(const char* /*text*/) {}
+    /// The list of earlier designs, `selected` under its mark; the index of the one to open, nothing for
+    /// none.
+    virtual std::optional<std::size_t> AskEarlierDesign(std::span<const RescueCopy> /*copies*/,
+                                                        std::optional<std::size_t> /*selected*/)
+    {
+        return std::nullopt;
+    }
 };

@@ -1,16 +1,28 @@
 #include "document/FileMasks.h"
 
 #include "lib/files/FileQueries.h"
+#include "lib/text/CharTools.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <string_view>
 
 namespace {
 
-bool NamesAFileWithoutEnding(const std::filesystem::path& path)
+using Path = std::filesystem::path;
+
+bool NamesAFile(const Path& name) { return !name.empty() && name != "." && name != ".."; }
+
+bool EndsAlike(std::string_view text, std::string_view ending)
 {
-    const std::filesystem::path name = path.filename();
-    return !name.empty() && !name.native().starts_with('.') && !name.has_extension();
+    return text.size() >= ending.size() && std::ranges::equal(text.substr(text.size() - ending.size()),
+                                                              ending, {}, ToPlainLower, ToPlainLower);
+}
+
+/// A point at the end of a name is the one of the ending.
+std::string Joined(const std::string& path, const std::string& ending)
+{
+    return path + (path.ends_with('.') ? ending.substr(1) : ending);
 }
 
 } // namespace
@@ -23,8 +35,18 @@ std::string FilterEnding(const FileDialog& dialog)
     return std::string(rest.substr(0, rest.find('|')));
 }
 
-std::string WithEnding(const FileDialog& dialog, const std::string& path)
+std::string WithEnding(const FileDialog& dialog, const std::string& path, bool firstChoice)
 {
-    const bool stays = !NamesAFileWithoutEnding(path) || (!dialog.saving && FileExists(path.c_str()) != 0);
-    return stays ? path : path + "." + FilterEnding(dialog);
+    const Path name = Path(path).filename();
+    if (!NamesAFile(name)) {
+        return path;
+    }
+    const std::string ending = "." + FilterEnding(dialog);
+    if (!dialog.saving) {
+        const std::string full = Joined(path, ending);
+        return FileExists(path.c_str()) == 0 && FileExists(full.c_str()) != 0 ? full : path;
+    }
+    const bool hidden = name.native().starts_with('.');
+    const bool complete = firstChoice ? EndsAlike(name.native(), ending) : hidden || name.has_extension();
+    return complete ? path : Joined(path, ending);
 }

@@ -39,7 +39,8 @@ constexpr FileDialog OldFormatMask(int language)
 /// stands in for the default extension, which may hold an asterisk.
 std::string FilterEnding(const FileDialog& dialog);
 
-/// The path that a dialog's answer stands for: a name typed without an ending gets FilterEnding. A name with
-/// one, a name that begins with a dot, an empty path, and a file to be opened that exists as it was typed
-/// stay as they are.
-std::string WithEnding(const FileDialog& dialog, const std::string& path);
+/// The path that a dialog's answer stands for. To be opened, a name stays as it was typed if something stands
+/// there, and else gets FilterEnding if something stands there. To be saved under the first choice of the
+/// filter, it gets FilterEnding unless it ends so; under another choice, unless it has an ending of its own
+/// or begins with a dot. A path that names no file stays as it is.
+std::string WithEnding(const FileDialog& dialog, const std::string& path, bool firstChoice = true);

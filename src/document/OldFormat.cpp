@@ -10,8 +10,6 @@ namespace {
 using D = COrrevaData;
 using OldField = std::variant<LibString D::*, double D::*, std::int32_t D::*>;
 
-constexpr std::uint32_t kLastVersion = 20040101; // a date
-
 /// In the order of the stream, behind the magic number.
 constexpr OldField kOldFields[] = {
     &D::title,
@@ -70,7 +68,7 @@ bool ImportOld(OldArchive& archive, COrrevaData& record, RecordHost& host)
     if (!archive.Read(magic)) {
         return false;
     }
-    if (magic != kLastVersion) {
+    if (magic != kLastOldVersion) {
         host.ShowMessage("Achtung, diese Daten wurden mit einer älteren Programmversion erzeugt!"_cp1252);
     }
     record.Reset();

@@ -1,18 +1,29 @@
 #include "document/OrrevaDoc.h"
 
+#include "document/EarlierDesigns.h"
+#include "document/FileContent.h"
 #include "document/FileMasks.h"
 #include "document/FtaExport.h"
 #include "document/OldArchive.h"
 #include "document/OldFormat.h"
 #include "document/OsloExport.h"
+#include "document/RescueCopies.h"
 #include "document/TelescopeFile.h"
 #include "lib/files/FileBytes.h"
+#include "lib/files/FileReason.h"
 #include "lib/text/CodePage.h"
+#include "lib/text/FormatText.h"
 #include "lib/text/Log.h"
 #include "lib/text/Numbers.h"
+#include "model/analysis/Recalculation.h"
 #include "model/optics/CentreMarks.h"
 
+#include <algorithm>
+#include <ctime>
 #include <filesystem>
+#include <utility>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -24,6 +35,37 @@ constexpr Bilingual kNotOpened{"The file %s cannot be opened.",
 constexpr Bilingual kDamaged{
     "The file %s ends too early. It is damaged, or no file of the old Orreva format.",
     "Die Datei %s endet zu früh. Sie ist beschädigt oder keine Datei im alten Orreva-Format."_cp1252};
+
+constexpr Bilingual kPresentFormat{
+    "This is a design of the present format. Open it as such?",
+    "Diese Datei ist ein Entwurf im heutigen Format. Als solchen öffnen?"_cp1252};
+constexpr Bilingual kOneLeft{"One more file was not opened.",
+                             "Eine weitere Datei wurde nicht geöffnet."_cp1252};
+constexpr Bilingual kSomeLeft{"%d more files were not opened.",
+                              "%d weitere Dateien wurden nicht geöffnet."_cp1252};
+constexpr Bilingual kNothingToExport{"%s was not written: a number of the design cannot be written there.",
+                                     "%s wurde nicht geschrieben: Eine Zahl des Entwurfs lässt sich dort "
+                                     "nicht schreiben."_cp1252};
+constexpr Bilingual kNoCopies{
+    "No copies of unsaved designs can be kept: %s.",
+    "Von ungesicherten Entwürfen können keine Kopien aufgehoben werden: %s."_cp1252};
+constexpr Bilingual kCopyGone{"The earlier design cannot be read any more.",
+                              "Der frühere Entwurf lässt sich nicht mehr lesen."_cp1252};
+
+// The names of steps, as the menu has them.
+constexpr Bilingual kStepNew{"New", "Neu"};
+constexpr Bilingual kStepNewDetailed{"New (detailed)", "Neu (ausführlich)"_cp1252};
+constexpr Bilingual kStepOpen{"Open", "Öffnen"_cp1252};
+constexpr Bilingual kStepImport{"Import", "Importieren"};
+constexpr Bilingual kStepProperties{"Properties", "Eigenschaften"};
+constexpr Bilingual kStepTube{"Properties (Tube)", "Eigenschaften Tubus"};
+constexpr Bilingual kStepEarlier{"Earlier design", "Früherer Entwurf"_cp1252};
+
+constexpr Bilingual kNoStep{nullptr, nullptr};
+constexpr Bilingual kUndo{"Undo: %s", "Rückgängig: %s"_cp1252};
+constexpr Bilingual kRedo{"Redo: %s", "Wiederholen: %s"};
+constexpr Bilingual kModified{"modified", "geändert"_cp1252};
+constexpr Bilingual kSaved{"saved %H:%M", "gesichert %H:%M"};
 
 void Tell(RecordHost& host, const Bilingual& text, const char* path)
 {
@@ -40,7 +82,7 @@ int g_nWizard = 0;
 // The records clear themselves while the document is being built. It is not the current one then, so that
 // nothing is asked of its host.
 COrrevaDoc::COrrevaDoc(DocumentHost& desktop)
-    : main_record(this, &DesignFiles()), scratch_record(this, &DesignFiles()), m_host(desktop)
+    : main_record(this, this), scratch_record(this, this), m_host(desktop)
 {}
 
 COrrevaDoc::~COrrevaDoc()
@@ -59,28 +101,18 @@ void COrrevaDoc::SetDocumentTitle(const char* path)
 
 void COrrevaDoc::Recalculate()
 {
-    COrrevaData& data = *active_record;
-    {
-        // On a fresh record the first read of z is infinite, and with it this angle a NaN.
-        const double z = data.GetFocalPlaneHeight();
-        const double m = data.GetSecondaryDiameter();
-        const double f = data.GetFocalLength();
-        const double D = data.GetMirrorDiameter();
-        field_angle_100 = FullFieldAngle(D, f, m, z);
-    }
-    {
-        const double z = data.GetFocalPlaneHeight();
-        const double m = data.GetSecondaryDiameter();
-        const double f = data.GetFocalLength();
-        const double D = data.GetMirrorDiameter();
-        field_diameter_100 = FullFieldDiameter(D, f, m, z);
-    }
-    mirror_back_position = data.GetDistanceBack();
-    mirror_front_position = data.GetMirrorThickness() + mirror_back_position;
-    // The menus ask for the kind of tube at every refresh, so that it never stays unset.
-    data.GetTubeType();
-    data.SetModified(1);
+    ComputeFigures();
+    active_record->SetModified(1);
     UpdateAllViews();
+}
+
+void COrrevaDoc::ComputeFigures()
+{
+    const Recalculation result = ::Recalculate(*active_record);
+    field_angle_100 = result.field.angle;
+    field_diameter_100 = result.field.diameter;
+    mirror_back_position = result.mirror_back_position;
+    mirror_front_position = result.mirror_front_position;
 }
 
 void COrrevaDoc::DropTelescope()
@@ -93,16 +125,18 @@ void COrrevaDoc::DropTelescope()
 void COrrevaDoc::OnFileNewQuick()
 {
     active_record->Reset();
+    EndBarTrial();
     QuickNewTexts texts = kQuickNewTexts;
-    if (!m_host.AskQuickNew(texts)) {
+    if (m_host.AskQuickNew(texts)) {
+        active_record->SetTitle(texts.title.c_str());
+        active_record->SetMirrorDiameter(DecimalValue(texts.aperture.c_str()));
+        active_record->SetFocalLength(DecimalValue(texts.focal_length.c_str()));
+        Recalculate();
+        UpdateAllViews();
+    } else {
         DropTelescope();
-        return;
     }
-    active_record->SetTitle(texts.title.c_str());
-    active_record->SetMirrorDiameter(DecimalValue(texts.aperture.c_str()));
-    active_record->SetFocalLength(DecimalValue(texts.focal_length.c_str()));
-    Recalculate();
-    UpdateAllViews();
+    NoteStep(kStepNew, StepKind::Replaces);
 }
 
 void COrrevaDoc::OnFileNewDetailed()
@@ -112,27 +146,61 @@ void COrrevaDoc::OnFileNewDetailed()
     }
     g_nWizard = 1;
     active_record->Reset();
+    EndBarTrial();
     field_diameter_100 = 10.0;
     field_angle_100 = FieldAngle(active_record->GetFocalLength(), 10.0);
     Recalculate();
-    if (!m_host.RunModal(Modal::TelescopeSheet)) {
+    if (RunSheet(Modal::TelescopeSheet, kNoStep)) {
+        Recalculate();
+        UpdateAllViews();
+    } else {
         DropTelescope();
-        return;
     }
-    Recalculate();
-    UpdateAllViews();
+    NoteStep(kStepNewDetailed, StepKind::Replaces);
 }
 
 void COrrevaDoc::OnFileOpen()
 {
     const std::string path = m_host.AskPath(kOpenTelescope);
-    if (path.empty()) {
-        return;
+    if (!path.empty()) {
+        OpenDesign(path.c_str());
     }
+}
+
+void COrrevaDoc::OpenDesign(const char* path)
+{
     active_record->Reset();
-    active_record->Load(path.c_str());
+    EndBarTrial();
+    const bool read = active_record->Load(path) == 0;
     Recalculate();
     active_record->SetModified(0);
+    if (read) {
+        m_history.Saved(active_record->file_path.GetText(), *active_record);
+    }
+    NoteStep(kStepOpen, StepKind::Replaces);
+}
+
+bool COrrevaDoc::OpenByContent(const char* path)
+{
+    if (!LooksLikeDesignFile(path)) {
+        return OpenOldFormat(path);
+    }
+    OpenDesign(path);
+    return true;
+}
+
+void COrrevaDoc::OpenDropped(std::span<const std::string> paths)
+{
+    if (paths.empty()) {
+        return;
+    }
+    BeginCommand();
+    OpenByContent(paths.front().c_str());
+    const auto left = static_cast<int>(paths.size() - 1);
+    if (left > 0) {
+        m_status.Say(FormatText((left == 1 ? kOneLeft : kSomeLeft).In(g_nLanguage), left));
+        ShowStatus();
+    }
 }
 
 void COrrevaDoc::OnFileSave() { active_record->Save(); }
@@ -141,6 +209,8 @@ void COrrevaDoc::OnFileSaveAs()
 {
     const std::string path = m_host.AskPath(kSaveTelescope);
     if (!path.empty()) {
+        const std::string before = active_record->file_path.GetText();
+        m_history.Renamed(before, path); // before Write compares the steps with what it wrote
         active_record->SaveAs(path.c_str());
     }
 }
@@ -148,7 +218,13 @@ void COrrevaDoc::OnFileSaveAs()
 void COrrevaDoc::OnImportOld()
 {
     const std::string path = m_host.AskPath(OldFormatMask(g_nLanguage));
-    if (!path.empty()) {
+    if (path.empty()) {
+        return;
+    }
+    // Taken for the old format, a design would become nonsense.
+    if (LooksLikeDesignFile(path.c_str()) && m_host.AskYesNo(kPresentFormat.In(g_nLanguage))) {
+        OpenDesign(path.c_str());
+    } else {
         OpenOldFormat(path.c_str());
     }
 }
@@ -170,14 +246,31 @@ bool COrrevaDoc::OpenOldFormat(const char* path)
         Tell(m_host, kNotOpened, path);
         return false;
     }
-    OldArchive archive(*bytes);
-    if (!Serialize(archive)) {
-        Tell(m_host, kDamaged, path);
-        UpdateAllViews(); // the record may hold a part of the file now
-        return false;
+    return OpenOldBytes(path, *bytes);
+}
+
+bool COrrevaDoc::OpenOldBytes(const char* path, std::string_view bytes)
+{
+    OldArchive archive(bytes);
+    const bool replaces = bytes.size() >= sizeof kLastOldVersion; // a shorter file leaves the record alone
+    const bool read = Serialize(archive);
+    if (replaces) {
+        EndBarTrial();
     }
-    m_host.SetDocumentTitle(std::filesystem::path(path).filename().c_str());
-    return true;
+    if (!read) {
+        Tell(m_host, kDamaged, path);
+        // The record may hold a part of the file now. Its first readings, which are infinite, are not shown.
+        if (HasFile()) {
+            ComputeFigures();
+            ComputeFigures();
+        }
+        UpdateAllViews();
+    }
+    NoteStep(kStepImport, StepKind::Replaces);
+    if (read) {
+        m_host.SetDocumentTitle(std::filesystem::path(path).filename().c_str());
+    }
+    return read;
 }
 
 void COrrevaDoc::OnExportOslo()
@@ -193,7 +286,15 @@ void COrrevaDoc::WriteExport(const FileDialog& dialog, const std::optional<std::
                              const char* error)
 {
     const std::string path = m_host.AskPath(dialog);
-    if (!path.empty() && !(text && ReplaceFile(path.c_str(), *text))) {
+    if (path.empty()) {
+        return;
+    }
+    if (!text) {
+        m_status.Fail(StatusTopic::Export,
+                      FormatText(kNothingToExport.In(g_nLanguage), Cp1252FromUtf8(path).c_str()));
+        ShowStatus();
+    }
+    if (!text || !WriteFile(StatusTopic::Export, path, *text)) {
         m_host.ShowMessage(error);
     }
 }
@@ -205,9 +306,10 @@ void COrrevaDoc::OnProperties()
         return;
     }
     g_nWizard = 0;
-    if (m_host.RunModal(Modal::TelescopeSheet)) {
+    if (RunSheet(Modal::TelescopeSheet, kStepProperties)) {
         Recalculate();
     }
+    NoteStep(kStepProperties);
 }
 
 void COrrevaDoc::OnTubeProperties()
@@ -217,11 +319,21 @@ void COrrevaDoc::OnTubeProperties()
     LibString line;
     line.Format("Vorher im Doc: %d", active_record->GetTubeType());
     LogText(line);
-    if (m_host.RunModal(Modal::TubeSheet)) {
+    if (RunSheet(Modal::TubeSheet, kStepTube)) {
         scratch_record.CopyTo(main_record);
+        EndBarTrial();
     }
     active_record = &main_record;
     Recalculate();
+    NoteStep(kStepTube);
+}
+
+void COrrevaDoc::StoreReadings(const ReadingBook& book)
+{
+    if (readings.Change(book)) {
+        main_record.SetModified(1);
+        UpdateAllViews();
+    }
 }
 
 void COrrevaDoc::OnCentreMarks() { m_host.ShowMessage(CentreMarksMessage(*active_record).c_str()); }
@@ -235,7 +347,11 @@ void COrrevaDoc::OnRaytracingSettings()
     }
 }
 
-void COrrevaDoc::OnCloseDocument() { active_record->Reset(); }
+void COrrevaDoc::OnCloseDocument()
+{
+    active_record->Reset();
+    KeepLiveCopy();
+}
 
 void COrrevaDoc::ToggleRayMode(std::uint8_t ViewSwitches::*mode)
 {
@@ -251,4 +367,224 @@ void COrrevaDoc::ToggleSwitch(std::uint8_t ViewSwitches::*view)
 {
     this->*view = this->*view == 0 ? 1 : 0;
     UpdateAllViews();
+}
+
+// Steps, status, copies ------------------------------------------------------------------------------------
+
+bool COrrevaDoc::RunSheet(Modal modal, const Bilingual& step)
+{
+    m_sheetStep = step;
+    const bool accepted = m_host.RunModal(modal);
+    m_sheetStep = kNoStep;
+    return accepted;
+}
+
+void COrrevaDoc::BeginCommand()
+{
+    m_status.BeginCommand();
+    ShowStatus();
+    m_before = StateOf(main_record);
+    if (!TrialAmong(bar_params)) { // a trial that a step takes over is undone with it
+        m_history.StartFrom(m_before);
+    }
+}
+
+void COrrevaDoc::StartBarTrial()
+{
+    bar_start = StateOf(main_record);
+    m_history.StartFrom(*bar_start);
+}
+
+void COrrevaDoc::EndBarTrial()
+{
+    for (BarParam& entry : bar_params) {
+        entry.selected = 0;
+    }
+    bar_start.reset();
+}
+
+void COrrevaDoc::AcceptBarTrial(const Bilingual& name)
+{
+    m_history.Note(name, StateOf(main_record));
+    StartBarTrial();
+}
+
+void COrrevaDoc::NoteStep(const Bilingual& name, StepKind kind)
+{
+    RecordState now = StateOf(main_record);
+    if (IsSameDesign(m_before, now)) { // a trial alone is no step
+        return;
+    }
+    m_history.Note(name, now, kind);
+    m_before = std::move(now);
+    bar_start.reset();
+}
+
+void COrrevaDoc::NoteApply()
+{
+    if (m_sheetStep.english != nullptr) {
+        NoteStep(m_sheetStep);
+    }
+}
+
+void COrrevaDoc::OnUndo()
+{
+    if (const Bilingual* const found = m_history.UndoName()) {
+        const Bilingual name = *found;
+        Restore(m_history.Undo(StateOf(main_record)), kUndo, name);
+    }
+}
+
+void COrrevaDoc::OnRedo()
+{
+    if (const Bilingual* const found = m_history.RedoName()) {
+        const Bilingual name = *found;
+        Restore(m_history.Redo(StateOf(main_record)), kRedo, name);
+    }
+}
+
+void COrrevaDoc::Restore(const RecordState& state, const Bilingual& text, const Bilingual& name)
+{
+    EndBarTrial();
+    PutState(state, main_record);
+    SetDocumentTitle(main_record.file_path);
+    if (HasFile()) {
+        Recalculate();
+        main_record.SetModified(state.modified);
+    }
+    UpdateAllViews();
+    m_history.StartFrom(StateOf(main_record));
+    m_status.Say(FormatText(text.In(g_nLanguage), name.In(g_nLanguage)));
+    ShowStatus();
+}
+
+/// The trial of a parameter that a sheet stored is over: what the sheet stored is what the user wants.
+void COrrevaDoc::OnStored(void (COrrevaData::*set)(double))
+{
+    const auto trial = TrialAmong(bar_params);
+    if (!trial || active_record != &main_record) {
+        return;
+    }
+    bar_start.reset(); // going back to it would take back what the sheet stored
+    if (BarParameters()[static_cast<std::size_t>(*trial)].set == set) {
+        EndBarTrial();
+        m_before = m_history.Start(); // what was tried is a part of the sheet's step now
+    }
+}
+
+bool COrrevaDoc::Write(const COrrevaData& record)
+{
+    const bool written = m_files.Write(record);
+    if (written) {
+        m_history.Saved(record.file_path.GetText(), record);
+        if (bar_start) {
+            bar_start->modified = 1; // what the file holds is the trial
+        }
+        if (&record == &main_record && Copies() != nullptr) {
+            Copies()->DropLive();
+            m_live.clear();
+        }
+    }
+    TellSave(StatusTopic::Save);
+    return written;
+}
+
+void COrrevaDoc::NotSaved(const COrrevaData& record, bool failed)
+{
+    m_files.NotSaved(record, failed);
+    TellCopies();
+}
+
+bool COrrevaDoc::WriteFile(StatusTopic topic, const std::string& path, std::string_view bytes)
+{
+    m_files.Save(path, bytes);
+    TellSave(topic);
+    return static_cast<bool>(m_files.LastOutcome());
+}
+
+void COrrevaDoc::TellSave(StatusTopic topic)
+{
+    if (m_files.LastOutcome()) {
+        m_status.Succeed(topic, m_files.LastText(g_nLanguage));
+    } else {
+        m_status.Fail(topic, m_files.LastText(g_nLanguage));
+    }
+    TellCopies();
+    ShowStatus();
+}
+
+/// Says once that copies cannot be kept.
+void COrrevaDoc::TellCopies()
+{
+    if (const int error = Copies() != nullptr ? Copies()->TakeFailure() : 0; error != 0) {
+        m_status.Fail(StatusTopic::RescueCopies,
+                      FormatText(kNoCopies.In(g_nLanguage), FileReason(error).In(g_nLanguage)));
+        ShowStatus();
+    }
+}
+
+std::string COrrevaDoc::StateText(int language) const
+{
+    if (!HasFile()) {
+        return {};
+    }
+    if (active_record->IsModified() != 0) {
+        return kModified.In(language);
+    }
+    struct stat file = {};
+    struct tm local = {};
+    if (stat(active_record->file_path, &file) != 0 || localtime_r(&file.st_mtime, &local) == nullptr) {
+        return {};
+    }
+    char text[64];
+    return {text, std::strftime(text, sizeof text, kSaved.In(language), &local)};
+}
+
+void COrrevaDoc::KeepLiveCopy()
+{
+    if (Copies() == nullptr) {
+        return;
+    }
+    if (active_record->IsModified() == 0) {
+        if (!m_live.empty()) {
+            Copies()->DropLive();
+            m_live.clear();
+        }
+        return;
+    }
+    std::string now = active_record->file_path.GetText() + WriteTelescope(*active_record);
+    if (now != m_live && Copies()->WriteLive(*active_record)) {
+        m_live = std::move(now);
+    }
+    TellCopies();
+}
+
+void COrrevaDoc::ChooseEarlierDesign(const std::optional<std::string>& file)
+{
+    const std::vector<RescueCopy> copies = Copies() != nullptr ? Copies()->List() : std::vector<RescueCopy>{};
+    const auto marked = file ? std::ranges::find(copies, *file, &RescueCopy::file) : copies.end();
+    const auto chosen = m_host.AskEarlierDesign(
+        copies, marked == copies.end() ? std::nullopt
+                                       : std::optional(static_cast<std::size_t>(marked - copies.begin())));
+    if (chosen && *chosen < copies.size()) {
+        OpenCopy(copies[*chosen]);
+    }
+}
+
+/// Makes a copy the current design under its old path. The file there is another one: the design counts as
+/// modified, and saving it keeps that file.
+void COrrevaDoc::OpenCopy(const RescueCopy& copy)
+{
+    COrrevaData design;
+    if (!ReadEarlierDesign(copy, design)) {
+        m_status.Say(kCopyGone.In(g_nLanguage));
+        ShowStatus();
+        return;
+    }
+    active_record->Reset();
+    EndBarTrial();
+    PutState({design, copy.path, 1}, *active_record);
+    SetDocumentTitle(active_record->file_path);
+    Recalculate();
+    NoteStep(kStepEarlier, StepKind::Replaces);
 }

@@ -1,7 +1,6 @@
 #include "document/TelescopeFile.h"
 
 #include "document/XmlScanner.h"
-#include "lib/files/FileBytes.h"
 #include "lib/text/Numbers.h"
 #include "model/record/RecordFields.h"
 
@@ -109,22 +108,9 @@ private:
     std::vector<std::string_view> m_open;
 };
 
-class TelescopeFiles : public RecordFiles {
-public:
-    bool Write(const COrrevaData& record) override
-    {
-        return ReplaceFile(record.file_path, WriteTelescope(record));
-    }
-    void Read(COrrevaData& record) override { ReadTelescope(XmlScanner(record.file_path), record); }
-};
-
 } // namespace
 
-RecordFiles& DesignFiles()
-{
-    static TelescopeFiles files;
-    return files;
-}
+bool IsDesignText(std::string_view text) { return text.find("<telescope") != std::string_view::npos; }
 
 std::string WriteTelescope(const COrrevaData& data)
 {

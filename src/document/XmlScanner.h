@@ -24,6 +24,8 @@ public:
     static XmlScanner FromText(std::string_view text);
 
     bool HasText() const { return m_hasText; }
+    /// Whether the text holds "<telescope", as every design file does.
+    bool IsDesign() const { return m_text.find("<telescope") != std::string::npos; }
 
     /// Copies the value of `key` ("telescope/mirror/diameter") into `buffer`, cut to nBufferSize - 1 bytes; a
     /// key that is not found gives the empty text. Null without a text, a key or a buffer, else `buffer`.

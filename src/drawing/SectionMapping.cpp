@@ -34,9 +34,11 @@ Point SectionMapping::ScreenToWorld(Pixel pixel) const
     return {(pixel.x - offsetX) / scale, (pixel.y - offsetY) / scale};
 }
 
-SectionMapping FitSection(COrrevaData& record, Pixel size)
+namespace {
+
+/// The scene that the picture has room for, mm.
+Point SceneSize(COrrevaData& record)
 {
-    constexpr int kMargin = 10; // pixels, for both sides together
     const double L = record.GetTubeLength();
     const double sceneLength = L + L / 10;
     const double I = record.GetInsideDiameterHat();
@@ -44,11 +46,28 @@ SectionMapping FitSection(COrrevaData& record, Pixel size)
     const double atFocalPlane = I + 2 * T + record.GetFocuserTotalHeight();
     const double Hf = record.GetFocuserHeight();
     const double extended = I + 2 * T + Hf + record.GetOazTravel();
-    const double sceneHeight = extended > atFocalPlane ? extended : atFocalPlane;
+    return {sceneLength, extended > atFocalPlane ? extended : atFocalPlane};
+}
 
+SectionMapping MapScene(Point scene, Pixel size, double scale)
+{
     SectionMapping map;
-    map.scale = std::min((size.x - kMargin) / sceneLength, (size.y - kMargin) / sceneHeight);
-    map.offsetX = (size.x - sceneLength * map.scale) / 2;
-    map.offsetY = ((size.y - sceneHeight * map.scale) / 2) / 2;
+    map.scale = scale;
+    map.offsetX = (size.x - scene.x * map.scale) / 2;
+    map.offsetY = ((size.y - scene.y * map.scale) / 2) / 2;
     return map;
+}
+
+} // namespace
+
+SectionMapping FitSection(COrrevaData& record, Pixel size)
+{
+    constexpr int kMargin = 10; // pixels, for both sides together
+    const Point scene = SceneSize(record);
+    return MapScene(scene, size, std::min((size.x - kMargin) / scene.x, (size.y - kMargin) / scene.y));
+}
+
+SectionMapping SectionAtScale(COrrevaData& record, Pixel size, double scale)
+{
+    return MapScene(SceneSize(record), size, scale);
 }

@@ -24,3 +24,6 @@ struct SectionMapping {
 /// The mapping that fits the telescope into a picture of `size` pixels, a little above its middle: the room
 /// below is the scale's. The scroll is (0, 0).
 SectionMapping FitSection(COrrevaData& record, Pixel size);
+
+/// The same with a scale of the caller's, which may leave room or be too large.
+SectionMapping SectionAtScale(COrrevaData& record, Pixel size, double scale);

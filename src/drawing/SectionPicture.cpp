@@ -232,6 +232,25 @@ Point WorldPointer(const SectionPointer& pointer, const SectionMapping& map)
     return pixel != nullptr ? map.ScreenToWorld(*pixel) : std::get<Point>(pointer);
 }
 
+void PaintParts(Surface& window, const SectionMapping& map, COrrevaData& record, const ViewSwitches& switches,
+                const SectionPointer& pointer, int language)
+{
+    SectionPainter picture(window, map, record, switches.show_offset != 0);
+    picture.PaintTube();
+    picture.PaintFocuser(switches.show_extended_focuser != 0);
+    picture.PaintFocalPlane();
+    picture.PaintRays(switches, WorldPointer(pointer, map), language);
+    picture.PaintScale();
+    picture.PaintSecondary();
+    if (switches.show_offset == 0) {
+        picture.PaintNoOffset(language);
+    }
+    picture.PaintPrimary();
+    if (switches.show_box_and_cage != 0) {
+        picture.PaintBoxAndCage();
+    }
+}
+
 } // namespace
 
 void PaintSection(Surface& window, SectionZoom& view, COrrevaData& record, const ViewSwitches& switches,
@@ -251,18 +270,14 @@ void PaintSection(Surface& window, SectionZoom& view, COrrevaData& record, const
     SectionMapping map = FitSection(record, view.PictureSize(width, height));
     map.scroll = {view.scrollX, view.scrollY};
 
-    SectionPainter picture(window, map, record, switches.show_offset != 0);
-    picture.PaintTube();
-    picture.PaintFocuser(switches.show_extended_focuser != 0);
-    picture.PaintFocalPlane();
-    picture.PaintRays(switches, WorldPointer(pointer, map), language);
-    picture.PaintScale();
-    picture.PaintSecondary();
-    if (switches.show_offset == 0) {
-        picture.PaintNoOffset(language);
-    }
-    picture.PaintPrimary();
-    if (switches.show_box_and_cage != 0) {
-        picture.PaintBoxAndCage();
+    PaintParts(window, map, record, switches, pointer, language);
+}
+
+void PaintSectionAtScale(Surface& window, COrrevaData& record, double scale)
+{
+    const Pixel size{window.Width(), window.Height()};
+    window.FillRect({0, 0, size.x, size.y}, kBackground);
+    if (size.x >= kSmallestWindow && size.y >= kSmallestWindow) {
+        PaintParts(window, SectionAtScale(record, size, scale), record, {}, Point{}, kEnglish);
     }
 }

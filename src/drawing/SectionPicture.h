@@ -18,3 +18,7 @@ using SectionPointer = std::variant<Pixel, Point>;
 /// tells how to come by one.
 void PaintSection(Surface& window, SectionZoom& view, COrrevaData& record, const ViewSwitches& switches,
                   const SectionPointer& pointer, int language);
+
+/// Paints the telescope alone, without rays, with so many pixels for a millimetre: telescopes beside one
+/// another are compared at one scale. The record need not be a loaded one.
+void PaintSectionAtScale(Surface& window, COrrevaData& record, double scale);

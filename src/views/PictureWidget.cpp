@@ -4,6 +4,12 @@
 
 #include <QPainter>
 
+Colour ToColour(const QColor& colour)
+{
+    return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
+            static_cast<std::uint8_t>(colour.blue())};
+}
+
 CPictureWidget::CPictureWidget(QWidget* parent) : QWidget(parent)
 {
     // Erasing it first would flicker.

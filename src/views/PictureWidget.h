@@ -1,8 +1,11 @@
 #pragma once
 
+#include "drawing/Surface.h"
+
 #include <QWidget>
 
-class Surface;
+/// A colour of the toolkit as pictures have it.
+Colour ToColour(const QColor& colour);
 
 /// A widget that is one picture: it covers itself whole at every repaint.
 class CPictureWidget : public QWidget {

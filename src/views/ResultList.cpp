@@ -76,6 +76,9 @@ public:
 
     QVariant data(const QModelIndex& index, int role) const override
     {
+        if (!index.isValid() || index.row() >= m_count || index.column() >= columnCount()) {
+            return {};
+        }
         if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
             return Cell(index.row(), index.column());
         }
@@ -84,7 +87,7 @@ public:
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
-        if (orientation != Qt::Horizontal || section >= columnCount()) {
+        if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
             return {};
         }
         if (role == Qt::DisplayRole) {

@@ -5,12 +5,6 @@ namespace {
 constexpr int kPanelControl = 4096;
 constexpr int kLeastHeight = 330; // rows, and below them a picture of 260 pixels
 
-Colour ToColour(const QColor& color)
-{
-    return {static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
-            static_cast<std::uint8_t>(color.blue())};
-}
-
 } // namespace
 
 CSidePanel::CSidePanel(COrrevaDoc& doc, QWidget* parent) : CPictureWidget(parent), m_document(doc)

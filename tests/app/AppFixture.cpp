@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QDesktopServices>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -31,6 +32,7 @@ constexpr const char* kSchemes[] = {"https", "file"};
 
 AppFixture::AppFixture(int language)
 {
+    qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
     g_browser = std::make_unique<Browser>(helpPages);
     for (const char* const scheme : kSchemes) {
         QDesktopServices::setUrlHandler(scheme, g_browser.get(), "Open");

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -61,6 +62,7 @@ protected:
     static void TypeOver(QWidget& field, const QString& text);
     static QString Text(const QWidget& parent, int controlId);
 
+    QTemporaryDir state; ///< where copies of designs are kept
     TemporaryFolder folder;
     QObject context;
     std::unique_ptr<COrrevaApp> app;

@@ -17,6 +17,7 @@ int main(int argc, char** argv)
     // The user's own profile is not the tests' to write.
     const QTemporaryDir profile;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, profile.path());
+    qputenv("XDG_STATE_HOME", profile.path().toUtf8());
 
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");

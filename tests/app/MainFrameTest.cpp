@@ -4,8 +4,10 @@
 #include "document/Commands.h"
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
+#include "views/RecordingPrinter.h"
 
 #include <QAbstractItemView>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -13,12 +15,17 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
+#include <QMouseEvent>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QRadioButton>
 #include <QSlider>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <cmath>
 
 namespace {
 
@@ -77,6 +84,9 @@ constexpr MenuRow kMenuTexts[] = {
     {57609, "Print Preview", "Sei&tenansicht"},
     {57606, "Print Setup", "Drucker&einrichtung..."},
     {57616, "Letzte Datei", "Letzte Datei"},
+    {33003, "Earlier designs...", "Frühere Entwürfe..."},
+    {33001, "Undo\tCtrl+Z", "Rückgängig\tStrg+Z"},
+    {33002, "Redo\tCtrl+Y", "Wiederholen\tStrg+Y"},
     {32772, "Properties\tStrg+E", "Eigenschaften\tStrg+E"},
     {32792, "Properties (Tube)", "Eigenschaften Tubus"},
     {32781, "Maximal size of mirror center markers",
@@ -101,6 +111,10 @@ constexpr MenuRow kMenuTexts[] = {
     {32777, "Inch/mm Calculator", "Zoll Rechner"},
     {32788, "Polygon Calculator", "Mehreck Rechner"},
     {32791, "Sector Calculator", "Kreisausschnitt Rechner"},
+    {33021, "Design check\tF8", "Entwurf prüfen\tF8"},
+    {33022, "Compare designs...", "Entwürfe vergleichen..."},
+    {33023, "Variation...", "Variation..."},
+    {33041, "Illumination...", "Ausleuchtung..."},
     {32790, "Orreva Support Forum", "Orreva Diskussionsforum"},
     {32810, "Orreva Wiki-Handbook", "Orreva Wiki-Handbook"},
 };
@@ -336,6 +350,46 @@ TEST_F(MainFrame, DoubleClickZoomsInAndRightClickOut)
     EXPECT_EQ(0, view.Zoom().scrollX) << "the next paint pulls it back";
 }
 
+TEST_F(MainFrame, AQuickSecondRightClickIsOneMore)
+{
+    MakeTelescope();
+    COrrevaView& view = app->Frame().RightView();
+    for (int i = 0; i < 4; ++i) {
+        QTest::mouseDClick(&view, Qt::LeftButton, {}, QPoint(20, 10));
+    }
+    ASSERT_EQ(5, view.Zoom().zoom);
+    const auto send = [&view](QEvent::Type type, Qt::MouseButtons held) {
+        QMouseEvent event(type, QPointF(20, 10), view.mapToGlobal(QPointF(20, 10)), Qt::RightButton, held,
+                          {});
+        QCoreApplication::sendEvent(&view, &event);
+    };
+    // As the toolkit tells of two clicks in quick succession.
+    send(QEvent::MouseButtonPress, Qt::RightButton);
+    send(QEvent::MouseButtonRelease, Qt::NoButton);
+    EXPECT_EQ(4, view.Zoom().zoom);
+    send(QEvent::MouseButtonDblClick, Qt::RightButton);
+    send(QEvent::MouseButtonRelease, Qt::NoButton);
+    EXPECT_EQ(3, view.Zoom().zoom);
+}
+
+TEST_F(MainFrame, APaneBecomesActiveByTheKeyboardsFocus)
+{
+    CLeftView& left = app->Frame().LeftView();
+    COrrevaView& right = app->Frame().RightView();
+    ASSERT_EQ(static_cast<CPane*>(&left), app->Frame().ActivePane());
+    ASSERT_EQ(&left, QApplication::focusWidget());
+    const auto tabTo = [](const QWidget& goal, Qt::Key key) {
+        for (int i = 0; i < 20 && QApplication::focusWidget() != &goal; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), key);
+        }
+        ASSERT_EQ(&goal, QApplication::focusWidget());
+    };
+    tabTo(right, Qt::Key_Tab);
+    EXPECT_EQ(static_cast<CPane*>(&right), app->Frame().ActivePane());
+    tabTo(left, Qt::Key_Backtab);
+    EXPECT_EQ(static_cast<CPane*>(&left), app->Frame().ActivePane());
+}
+
 TEST_F(MainFrame, RaytracingSettingsOpenOnThePresentButtonAndToggle)
 {
     MakeTelescope();
@@ -352,14 +406,15 @@ TEST_F(MainFrame, RaytracingSettingsOpenOnThePresentButtonAndToggle)
     }
 }
 
-TEST_F(MainFrame, SaveOpensNoDialogAndCtrlSSavesNothing)
+TEST_F(MainFrame, SaveOpensNoDialogAndCtrlSDoesTheSame)
 {
     MakeTelescope();
-    QTest::keyClick(&app->Frame(), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_TRUE(folder.Read("noname.orreva.xml").empty());
     Choose(32803);
     EXPECT_FALSE(folder.Read("noname.orreva.xml").empty());
     EXPECT_EQ(0, app->Document().main_record.IsModified());
+    std::filesystem::remove("noname.orreva.xml");
+    QTest::keyClick(&app->Frame(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(folder.Read("noname.orreva.xml").empty());
 }
 
 TEST_F(MainFrame, ClosingAsksWithoutCancelAndClosesEitherWay)
@@ -375,6 +430,32 @@ TEST_F(MainFrame, ClosingAsksWithoutCancelAndClosesEitherWay)
     });
     EXPECT_TRUE(app->Frame().close());
     EXPECT_FALSE(folder.Read("noname.orreva.xml").empty());
+}
+
+TEST_F(MainFrame, ASecondCloseWaitsForTheAnswerToTheFirst)
+{
+    MakeTelescope();
+    InNextDialog<QMessageBox>([this](QMessageBox& box) {
+        bool askedAgain = false;
+        QTimer::singleShot(0, &context, [&] {
+            // Were there a second question, it would wait for its own answer.
+            if (auto* const second = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                second != nullptr && second != &box) {
+                askedAgain = true;
+                second->button(QMessageBox::No)->click();
+            }
+        });
+        QCloseEvent again; // from the desktop: the toolkit's own close knows that one is under way
+        QCoreApplication::sendEvent(&app->Frame(), &again);
+        EXPECT_FALSE(again.isAccepted());
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(askedAgain);
+        EXPECT_TRUE(app->Frame().isVisible());
+        EXPECT_EQ(250.0, app->Document().main_record.mirror_diameter) << "nothing is lost yet";
+        box.button(QMessageBox::Yes)->click();
+    });
+    EXPECT_TRUE(app->Frame().close());
+    EXPECT_NE(std::string::npos, folder.Read("noname.orreva.xml").find("<diameter>250.000000</diameter>"));
 }
 
 TEST_F(MainFrame, ClosingWithNoLosesTheChanges)
@@ -484,6 +565,56 @@ TEST_F(MainFrame, PrintingLeavesTheScreensZoomAlone)
     EXPECT_EQ(0u, folder.Read("paper.pdf").find("%PDF"));
 }
 
+TEST_F(MainFrame, PrintingOnPaperSmallerThanThePaneLeavesTheScreensScrollAlone)
+{
+    MakeTelescope();
+    COrrevaView& view = app->Frame().RightView();
+    view.resize(900, 700);
+    QTest::mouseDClick(&view, Qt::LeftButton, {}, QPoint(890, 690));
+    view.grab(); // the screen's own pull
+    ASSERT_EQ((SectionZoom{2, 890, 690}), view.Zoom());
+    RecordingPrinter printer({300, 200});
+    view.OnPrint(printer);
+    EXPECT_EQ((SectionZoom{2, 890, 690}), view.Zoom());
+    ASSERT_FALSE(printer.Rects().empty());
+    EXPECT_EQ(QRectF(0, 0, 300, 200), printer.Rects().front()) << "the page's own size";
+}
+
+TEST_F(MainFrame, TheSummaryIsPrintedInThePapersFont)
+{
+    MakeTelescope();
+    RecordingPrinter printer({800, 1100});
+    app->Frame().LeftView().OnPrint(printer);
+    ASSERT_LT(20u, printer.Texts().size());
+    EXPECT_EQ("Untitleld", printer.Texts().front().text.left(9));
+    for (const RecordingPrinter::Text& text : printer.Texts()) {
+        EXPECT_EQ(21, text.pixelSize) << "lines of 24 pixels: 24 * 2048 / 2288";
+    }
+    EXPECT_EQ(QRectF(0, 0, 800, 1100), printer.Rects().front());
+}
+
+TEST_F(MainFrame, ThePreviewShowsTheActivePane)
+{
+    MakeTelescope();
+    const auto shown = [this](const QColor& colour) {
+        bool found = false;
+        InNextDialog<QPrintPreviewDialog>([&](QPrintPreviewDialog& dialog) {
+            QCoreApplication::processEvents();
+            found = Shows(*dialog.findChild<QPrintPreviewWidget*>(), colour);
+            dialog.reject();
+        });
+        Choose(57609);
+        return found;
+    };
+    const QColor summary(51, 153, 102);
+    const QColor section(0, 102, 153);
+    EXPECT_TRUE(shown(summary));
+    EXPECT_FALSE(shown(section));
+    QTest::mouseClick(&app->Frame().RightView(), Qt::LeftButton, {}, QPoint(50, 50));
+    EXPECT_TRUE(shown(section));
+    EXPECT_FALSE(shown(summary));
+}
+
 TEST_F(MainFrame, ANewFrameGivesTheSummaryTwiceTheWidthAskedFor)
 {
     EXPECT_EQ(520, CLeftView::CreationWidth(260));
@@ -504,7 +635,7 @@ TEST_F(MainFrame, OddNumbersInTheRecordPaint)
 {
     MakeTelescope();
     COrrevaData& data = app->Document().main_record;
-    for (const double value : {0.0, -1.0, 1e300, -1e300, 1e-300, -HUGE_VAL}) {
+    for (const double value : {0.0, -1.0, 1e300, -1e300, 1e-300, -HUGE_VAL, std::nan("")}) {
         for (void (COrrevaData::*set)(double) :
              {&COrrevaData::SetMirrorDiameter, &COrrevaData::SetFocalLength,
               &COrrevaData::SetInsideDiameterHat, &COrrevaData::SetDistanceFront,
@@ -582,15 +713,37 @@ TEST_F(MainFrame, WhatIfBarTriesAParameter)
     EXPECT_EQ(1500, slider->value());
 }
 
-TEST_F(MainFrame, SliderWritesOnItsRepaintToo)
+TEST_F(MainFrame, ARepaintOfTheSliderWritesNothing)
 {
     MakeTelescope();
     auto* const slider = FindControl<QSlider>(&app->Frame(), 1023);
     ChooseParameter(2);
     slider->repaint();
-    EXPECT_EQ(46.0, app->Document().main_record.GetSecondaryDiameter());
+    EXPECT_EQ(46.482, app->Document().main_record.GetSecondaryDiameter());
+    slider->setValue(60);
+    slider->repaint();
+    EXPECT_EQ(60.0, app->Document().main_record.GetSecondaryDiameter());
     Click(app->Frame(), 1025);
-    EXPECT_DOUBLE_EQ(46.482, app->Document().bar_params[2].value);
+    slider->repaint();
+    EXPECT_EQ(46.482, app->Document().main_record.GetSecondaryDiameter());
+}
+
+TEST_F(MainFrame, EscapeOrDeleteInTheListEndsTheTrial)
+{
+    MakeTelescope();
+    auto* const list = FindControl<QComboBox>(&app->Frame(), 1026);
+    auto* const slider = FindControl<QSlider>(&app->Frame(), 1023);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Delete}) {
+        ChooseParameter(0);
+        slider->setValue(2000);
+        slider->repaint();
+        QTest::keyClick(list, key);
+        EXPECT_EQ(1500.0, app->Document().main_record.GetFocalLength());
+        EXPECT_EQ(-1, list->currentIndex());
+        EXPECT_EQ(slider->minimum(), slider->maximum()) << "it shows none";
+        slider->repaint();
+        EXPECT_EQ(1500.0, app->Document().main_record.GetFocalLength());
+    }
 }
 
 TEST_F(MainFrame, AParameterChosenBeforeTheTelescopeIsTriedWhenItIsChosenAgain)
@@ -623,7 +776,8 @@ TEST_F(MainFrame, ATrialDoesNotReachTheRecordWhileQuickNewIsOpen)
     EXPECT_EQ(900.0, app->Document().main_record.GetFocalLength());
     EXPECT_DOUBLE_EQ(150.0, app->Document().main_record.GetInsideDiameterHat()) << "114 + 36, not 250 + 36";
     slider->repaint();
-    EXPECT_EQ(1500.0, app->Document().main_record.GetFocalLength()) << "the trial goes on";
+    EXPECT_EQ(900.0, app->Document().main_record.GetFocalLength()) << "the trial ended with its telescope";
+    EXPECT_EQ(-1, FindControl<QComboBox>(&app->Frame(), 1026)->currentIndex());
 }
 
 TEST_F(MainFrameGerman, WhatIfBarButtonsAreGermanAndItsListToo)
@@ -644,6 +798,22 @@ TEST(CommandLineOfTheWindow, AFileArrivesByWayOfTheOldFormat)
     EXPECT_TRUE(app.Document().HasFile());
     EXPECT_STREQ("noname.orreva.xml", app.Document().main_record.file_path);
     EXPECT_EQ(1, app.Document().main_record.IsModified());
+    app.Document().main_record.SetModified(0);
+}
+
+TEST(CommandLineOfTheWindow, WordsWithADashAreNoFiles)
+{
+    const TemporaryFolder folder;
+    std::filesystem::copy_file(ORREVA_SOURCE_DIR "/tests/golden/exchange/truss.orreva", "old.orreva");
+    std::filesystem::copy_file("old.orreva", "-old.orreva");
+    {
+        COrrevaApp app;
+        ASSERT_TRUE(app.InitInstance({"-old.orreva", "--old.orreva", "-"}));
+        EXPECT_FALSE(app.Document().HasFile());
+    }
+    COrrevaApp app;
+    ASSERT_TRUE(app.InitInstance({"-x", "--style", "old.orreva", "missing.orreva"}));
+    EXPECT_TRUE(app.Document().HasFile()) << "the first word that has none";
     app.Document().main_record.SetModified(0);
 }
 
@@ -688,6 +858,20 @@ TEST(Language, AnUnknownEntryIsOverwrittenByTheSystemsLanguage)
         EXPECT_EQ(expected, g_nLanguage);
         g_nLanguage = kEnglish;
     }
+}
+
+TEST(Language, AMissingEntryIsWrittenWithTheSystemsLanguage)
+{
+    COrrevaApp::Profile().remove("Settings/Language");
+    ASSERT_FALSE(COrrevaApp::Profile().contains("Settings/Language"));
+    COrrevaApp app;
+    ASSERT_TRUE(app.InitInstance({}));
+    const int expected = QLocale::system().language() == QLocale::German ? 1 : 0;
+    EXPECT_TRUE(COrrevaApp::Profile().contains("Settings/Language"));
+    EXPECT_EQ(expected, COrrevaApp::Profile().value("Settings/Language").toInt());
+    EXPECT_EQ(expected, g_nLanguage);
+    EXPECT_EQ(expected == 1, app.IsThreadGerman());
+    g_nLanguage = kEnglish;
 }
 
 TEST_F(MainFrame, AboutBox)

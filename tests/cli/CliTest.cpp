@@ -147,9 +147,7 @@ TEST_F(CommandLine, SummaryOfTheProposedTelescope)
     EXPECT_EQ("Focal Ratio:\tf/6.00", lines[5]);
     EXPECT_EQ("Thickness:\t41.7 mm (1.64\")", lines[6]);
     // z is read a second time, so the diameter is right and the angle is not yet a number
-    EXPECT_TRUE(HasLine(run.out, "Secondary\t12.57 mm (nan°)") ||
-                HasLine(run.out, "Secondary\t12.57 mm (-nan°)"))
-        << run.out;
+    EXPECT_TRUE(HasLine(run.out, "Secondary\t12.57 mm (–°)")) << run.out;
 }
 
 TEST_F(CommandLine, FieldsAreReadAsTheirFieldsDo)
@@ -241,8 +239,8 @@ TEST_F(CommandLine, PicturesComeInThreeForms)
         const char* name;
         const char* start;
     } rows[] = {{"a.png", "\x89PNG"}, {"a.svg", "<?xml"}, {"a.pdf", "%PDF"}};
-    for (const char* const picture :
-         {"section", "summary", "tube-panel", "mirror-panel", "field", "ronchi", "polygon", "sector"}) {
+    for (const char* const picture : {"section", "summary", "tube-panel", "mirror-panel", "field", "ronchi",
+                                      "polygon", "sector", "illumination", "secondary-choice"}) {
         for (const auto& row : rows) {
             const CliRun run =
                 Cli(std::string("draw --size 640x700 --picture ") + picture + " -o " + row.name);
@@ -259,14 +257,95 @@ TEST_F(CommandLine, TheDiameterOfAPolygonIsNoTelescopes)
     EXPECT_EQ(2, Cli("draw a --picture section --diameter 300 --size 300x300 -o b.png").status);
 }
 
-TEST_F(CommandLine, APipeIsNoFile)
+TEST_F(CommandLine, APipeIsAFile)
 {
-    ASSERT_EQ(0, std::system("mkfifo pipe"));
-    for (const char* const words : {"report pipe", "import pipe", "report /dev/zero"}) {
-        const CliRun run = Cli(words);
-        EXPECT_EQ(1, run.status) << words;
-        EXPECT_EQ("", run.out) << words;
+    ASSERT_EQ(0, Cli("save --title Piped -o a.orreva.xml").status);
+    const std::string design = folder.Read("a.orreva.xml");
+    EXPECT_EQ(design, Cli("save -", design).out);
+    EXPECT_EQ(design, Cli("save /dev/stdin", design).out);
+    EXPECT_EQ(design, Cli("save - -o -", design).out);
+    ASSERT_EQ(0, std::system("mkfifo pipe; cat a.orreva.xml >pipe &"));
+    EXPECT_EQ(design, Cli("save pipe").out);
+    EXPECT_EQ(design, Cli("save a.orreva.xml -o /dev/stdout").out);
+    EXPECT_EQ(design, Cli("save a.orreva.xml -o /proc/self/fd/1").out);
+    EXPECT_EQ("", Cli("save a.orreva.xml -o /dev/fd/1 >appended; " ORREVA_CLI
+                      " save a.orreva.xml -o /dev/stdout >>appended")
+                      .err);
+    EXPECT_EQ(design + design, folder.Read("appended"));
+    EXPECT_FALSE(std::filesystem::exists("-"));
+}
+
+TEST_F(CommandLine, ADeviceWithoutAnEndIsNotRead)
+{
+    const CliRun run = Cli("report /dev/zero");
+    EXPECT_EQ(1, run.status);
+    EXPECT_EQ("", run.out);
+    EXPECT_EQ("orreva-cli: cannot read /dev/zero\n", run.err);
+}
+
+TEST_F(CommandLine, AFileAbove64MebibytesIsNotRead)
+{
+    const std::string path = folder.Write("a.orreva.xml", "<telescope>");
+    std::filesystem::resize_file(path, std::uintmax_t{64} << 20);
+    EXPECT_EQ(0, Cli("save a.orreva.xml -o out").status);
+    std::filesystem::resize_file(path, (std::uintmax_t{64} << 20) + 1);
+    const CliRun run = Cli("save a.orreva.xml -o out2");
+    EXPECT_EQ(1, run.status);
+    EXPECT_EQ("orreva-cli: cannot read a.orreva.xml\n", run.err);
+    EXPECT_FALSE(std::filesystem::exists("out2"));
+}
+
+TEST_F(CommandLine, WhatDoesNotFitTheMemoryEndsWithOneAndALine)
+{
+    const std::string path = folder.Write("a.orreva.xml", "<telescope>");
+    std::filesystem::resize_file(path, std::uintmax_t{60} << 20);
+    const int status =
+        std::system("( ulimit -v 150000; exec " ORREVA_CLI " save a.orreva.xml -o out >said 2>&1 )");
+    EXPECT_EQ(1, WEXITSTATUS(status));
+    EXPECT_EQ("orreva-cli: not enough memory\n", folder.Read("said"));
+    EXPECT_FALSE(std::filesystem::exists("out"));
+}
+
+TEST_F(CommandLine, AReaderThatGoesAwayHasSeenEnough)
+{
+    for (const char* const words :
+         {"report --page foucault --zones 90000", "report --page foucault --zones 90000 -o /dev/stdout",
+          "report --page foucault --zones 90000 -o -", "report --format csv --page foucault --zones 90000",
+          "calc $(seq 1 9999)"}) {
+        const std::string line =
+            std::string("{ ") + ORREVA_CLI + " " + words + " 2>err; echo $? >status; } | head -c 10 >begin";
+        ASSERT_EQ(0, std::system(line.c_str()));
+        EXPECT_EQ("0\n", folder.Read("status")) << words;
+        EXPECT_EQ("", folder.Read("err")) << words;
+        EXPECT_EQ(10u, folder.Read("begin").size()) << words;
     }
+}
+
+TEST_F(CommandLine, TheListOfZonesHasAnEnd)
+{
+    const std::vector<std::string> lines = Lines(Cli("report --page foucault --zones 100001").out);
+    ASSERT_EQ(100004u, lines.size()) << "the page, the optimum, the titles, the zones, and the last line";
+    EXPECT_EQ(0u, lines[100002].find("100000\t"));
+    EXPECT_EQ("more than 100000 zones", lines[100003]);
+    EXPECT_EQ(100003u, Lines(Cli("report --page foucault --zones 100000").out).size());
+    EXPECT_EQ("more than 100000 zones", Lines(Cli("report --page foucault --zones 1e9").out).back());
+}
+
+TEST_F(CommandLine, TheListOfEyepiecesHasAnEnd)
+{
+    std::string list;
+    for (int i = 0; i < 100000; ++i) {
+        list += std::to_string(1000000 + i) + ",10,50\n";
+    }
+    folder.Write("eyepiece.dat", list);
+    std::vector<std::string> lines = Lines(Cli("report --page eyepieces").out);
+    ASSERT_EQ(1u + 6 * 100000, lines.size());
+    EXPECT_EQ("1099999", lines[1 + 6 * 99999]);
+    folder.Write("eyepiece.dat", list + "0,10,50\n");
+    lines = Lines(Cli("report --page eyepieces").out);
+    ASSERT_EQ(2u + 6 * 100000, lines.size());
+    EXPECT_EQ("1000000", lines[1]) << "the first of the file";
+    EXPECT_EQ("more than 100000 eyepieces", lines.back());
 }
 
 TEST_F(CommandLine, EqualSeedsDrawEqualPatterns)

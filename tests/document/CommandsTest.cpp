@@ -29,9 +29,10 @@ TEST_F(CommandTable, EveryIdStandsOnce)
 TEST_F(CommandTable, EnabledAsListed)
 {
     const std::set<int> always{32771, 32813, 32802, 57601, 57606, 32808, 32809,
-                               32789, 32777, 32788, 32791, 32790, 32810};
+                               32789, 32777, 32788, 32791, 32790, 32810, 33003};
     const std::set<int> loaded{32803, 32804, 32807, 32811, 57607, 57609, 32772, 32792, 32781, 32795,
-                               32794, 32800, 32796, 32776, 32778, 32775, 32779, 32780, 32786};
+                               32794, 32800, 32796, 32776, 32778, 32775, 32779, 32780, 32786,
+                               33021, 33022, 33023, 33041};
     const auto enabled = [this](int id) {
         const Command* const command = FindCommand(id);
         return command != nullptr && IsEnabled(*command, doc);
@@ -46,6 +47,8 @@ TEST_F(CommandTable, EnabledAsListed)
         for (const int id : loaded) {
             EXPECT_EQ(telescope, enabled(id)) << id;
         }
+        EXPECT_FALSE(enabled(33001)) << "no step to take back";
+        EXPECT_FALSE(enabled(33002));
         EXPECT_FALSE(enabled(32801)) << "Startest has no handler";
         EXPECT_FALSE(enabled(57616)) << "the recent files hold no entries";
         EXPECT_FALSE(enabled(32793)) << "not for a solid tube";
@@ -112,6 +115,46 @@ TEST_F(CommandTable, CommandsOfTheDesktopAndWithoutAHandlerDoNothingHere)
         EXPECT_FALSE(RunCommand(id, doc)) << id;
     }
     EXPECT_TRUE(host.Take().empty());
+}
+
+TEST_F(CommandTable, KeysGiveTheirCommands)
+{
+    const auto command = [](std::string_view keys) {
+        for (const Accelerator& accelerator : Accelerators()) {
+            if (keys == accelerator.keys) {
+                return accelerator.id;
+            }
+        }
+        return 0;
+    };
+    EXPECT_EQ(32803, command("Ctrl+S"));
+    EXPECT_EQ(57665, command("Ctrl+Q"));
+    EXPECT_EQ(57601, command("Ctrl+O"));
+    EXPECT_EQ(33001, command("Ctrl+Z"));
+    EXPECT_EQ(33002, command("Ctrl+Shift+Z"));
+    EXPECT_EQ(33002, command("Ctrl+Y"));
+}
+
+TEST_F(CommandTable, UndoAndRedoAreEnabledWhileThereIsAStep)
+{
+    const auto enabled = [this](int id) { return IsEnabled(*FindCommand(id), doc); };
+    host.quick_new.push_back(kQuickNewTexts);
+    RunCommand(32771, doc);
+    EXPECT_TRUE(enabled(33001));
+    EXPECT_FALSE(enabled(33002));
+    RunCommand(33001, doc);
+    EXPECT_FALSE(enabled(33001));
+    EXPECT_TRUE(enabled(33002));
+}
+
+TEST_F(CommandTable, ADialogThatChangesTheRecordIsAStepUnderItsName)
+{
+    Load();
+    host.in_modal = [this](Modal) { doc.main_record.SetStarPrecision(8); };
+    RunCommand(32795, doc);
+    ASSERT_NE(nullptr, doc.Steps().UndoName());
+    EXPECT_STREQ("Artificial Star", doc.Steps().UndoName()->english);
+    EXPECT_STREQ("K\xFCnstlicher Stern", doc.Steps().UndoName()->german);
 }
 
 } // namespace

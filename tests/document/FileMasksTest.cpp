@@ -43,13 +43,24 @@ TEST(FileMasks, TheEndingIsTheOneOfTheFirstChoice)
     EXPECT_EQ("orreva", FilterEnding(OldFormatMask(kGerman)));
 }
 
-TEST(FileMasks, ANameWithoutEndingGetsTheOneThatTheFilterShows)
+TEST(FileMasks, ANameToSaveUnderTheFirstChoiceGetsItsEnding)
 {
     EXPECT_EQ("scope.len", WithEnding(kExportOslo, "scope"));
     EXPECT_EQ("scope.mir", WithEnding(kExportFta, "scope"));
     EXPECT_EQ("scope.orreva.xml", WithEnding(kSaveTelescope, "scope"));
-    EXPECT_EQ("/no/such/folder/scope.orreva.xml", WithEnding(kOpenTelescope, "/no/such/folder/scope"));
-    EXPECT_EQ("/no.such/scope.orreva", WithEnding(OldFormatMask(kGerman), "/no.such/scope"));
+    EXPECT_EQ("M\xC3\xBCller f4.5.orreva.xml", WithEnding(kSaveTelescope, "M\xC3\xBCller f4.5"));
+    EXPECT_EQ("scope.xml.orreva.xml", WithEnding(kSaveTelescope, "scope.xml"));
+    EXPECT_EQ("a.b/scope.len.mir", WithEnding(kExportFta, "a.b/scope.len"));
+    EXPECT_EQ("scope.mir", WithEnding(kExportFta, "scope.")) << "no second point";
+    EXPECT_EQ("/home/me/.hidden.mir", WithEnding(kExportFta, "/home/me/.hidden"));
+}
+
+TEST(FileMasks, UnderAnotherChoiceOnlyANameWithoutEndingGetsOne)
+{
+    EXPECT_EQ("scope.orreva.xml", WithEnding(kSaveTelescope, "scope", false));
+    for (const char* path : {"scope.len", "scope.txt", "a.b/scope.xml", "scope.", ".hidden"}) {
+        EXPECT_EQ(path, WithEnding(kSaveTelescope, path, false));
+    }
 }
 
 TEST(FileMasks, NoAsteriskReachesTheDisk)
@@ -60,19 +71,22 @@ TEST(FileMasks, NoAsteriskReachesTheDisk)
     }
 }
 
-TEST(FileMasks, WhatHasAnEndingOrNamesNoFileStays)
+TEST(FileMasks, WhatHasTheEndingOrNamesNoFileStays)
 {
-    for (const char* path : {"", "scope.len", "scope.txt", "a.b/scope.mir", "scope.", "a/b/", "a/..", ".",
-                             ".hidden", "/home/me/.hidden", ".hidden.len"}) {
+    for (const char* path : {"", "scope.mir", "SCOPE.MIR", ".hidden.mir", "a/b/", "a/..", ".", ".."}) {
         EXPECT_EQ(path, WithEnding(kExportFta, path));
     }
 }
 
-TEST(FileMasks, AFileThatExistsIsOpenedAsItIsNamed)
+TEST(FileMasks, AFileIsOpenedAsItIsNamedOrByTheEnding)
 {
     const TemporaryFolder folder;
     folder.Write("scope", "x");
+    folder.Write("scope.orreva.xml", "x");
+    folder.Write("other.orreva.xml", "x");
     EXPECT_EQ(folder / "scope", WithEnding(kOpenTelescope, folder / "scope"));
+    EXPECT_EQ(folder / "other.orreva.xml", WithEnding(kOpenTelescope, folder / "other"));
+    EXPECT_EQ(folder / "missing", WithEnding(kOpenTelescope, folder / "missing"));
     EXPECT_EQ(folder / "scope.orreva.xml", WithEnding(kSaveTelescope, folder / "scope"));
 }
 

@@ -131,6 +131,21 @@ TEST_F(FtaExportCommand, ANonsenseMirrorWritesNoFileAndLeavesTheOldOne)
     EXPECT_FALSE(std::filesystem::exists(folder / "new.mir"));
 }
 
+TEST_F(FtaExportCommand, AHundredThousandZonesExactlyAreWritten)
+{
+    kTestTelescopes[0].Make(doc);
+    doc.main_record.SetFocalLength(0.5);
+    doc.main_record.SetMirrorDiameter(98.6533); // 10.27493 D^2 = 100000.5
+    ASSERT_EQ(100000, FtaZoneCount(98.6533, 0.5));
+    const auto text = FtaExport(doc.main_record);
+    ASSERT_TRUE(text);
+    EXPECT_NE(std::string::npos, text->find("#Number Of Zones\r\n 100000\r\n"));
+    EXPECT_NE(std::string::npos, text->find("\r\n 49.326650\r\n#Effective Zoneradius\r\n")) << "D / 2";
+    doc.main_record.SetMirrorDiameter(98.6536); // 100001.1
+    ASSERT_EQ(100001, FtaZoneCount(98.6536, 0.5));
+    EXPECT_FALSE(FtaExport(doc.main_record));
+}
+
 TEST_F(FtaExportCommand, AHundredThousandZonesAreTheMost)
 {
     // With f = 0.5 the radius of curvature is 1, and D^2 / (16 sqrt(3.7e-5)) = 10.27493 D^2.

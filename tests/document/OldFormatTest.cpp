@@ -1,5 +1,6 @@
 #include "document/OldFormat.h"
 #include "document/Commands.h"
+#include "document/DesignFiles.h"
 #include "document/OldArchive.h"
 #include "document/TelescopeFile.h"
 #include "lib/text/CodePage.h"
@@ -311,7 +312,8 @@ TEST_F(OldFormat, TheGoldenFileImportedSavedAndReopenedKeepsEveryField)
     doc.OnFileSave();
     EXPECT_EQ(GoldenFile("exchange/truss.orreva.xml"), folder.Read("noname.orreva.xml"));
 
-    COrrevaData again(nullptr, &DesignFiles());
+    DesignFiles files;
+    COrrevaData again(nullptr, &files);
     ASSERT_EQ(0, again.Load((folder / "noname.orreva.xml").c_str()));
     for (const RecordField& entry : RecordFields()) {
         if (const auto* text = std::get_if<TextField>(&entry.field)) {

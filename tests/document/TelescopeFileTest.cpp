@@ -1,4 +1,5 @@
 #include "document/TelescopeFile.h"
+#include "document/DesignFiles.h"
 #include "document/XmlScanner.h"
 #include "lib/text/Assertion.h"
 #include "model/record/RecordFields.h"
@@ -219,6 +220,41 @@ TEST(TelescopeFile, ATitleWithATagRedirectsTheKeys)
     EXPECT_EQ(7, back.mirror_diameter) << "the walk goes on behind the title";
 }
 
+TEST(TelescopeFile, WeightsBeforeTheSecondaryLeadItsKeysAstray)
+{
+    // The walk knows no nesting: the first "secondary" is a weight, and the next diameter the focuser's.
+    const std::string weight = "<weight><mirror>1000</mirror><secondary>200</secondary></weight>";
+    const std::string focuser = "<focuser><height>60</height><diameter>50</diameter></focuser>";
+    const std::string secondary = "<secondary><diameter>46</diameter><offset>3</offset></secondary>";
+    COrrevaData data;
+    Read("<telescope>" + weight + focuser + secondary + "</telescope>", data);
+    EXPECT_EQ(50, data.secondary_diameter);
+    EXPECT_EQ(3, data.secondary_offset);
+    EXPECT_EQ(200, data.weight_secondary);
+    EXPECT_EQ(50, data.focuser_diameter);
+
+    Read("<telescope>" + focuser + weight + secondary + "</telescope>", data);
+    EXPECT_EQ(46, data.secondary_diameter);
+    EXPECT_EQ(200, data.weight_secondary);
+    Read("<telescope>" + focuser + secondary + weight + "</telescope>", data);
+    EXPECT_EQ(46, data.secondary_diameter);
+    EXPECT_EQ(200, data.weight_secondary) << "the secondary of the weights, which come later";
+}
+
+TEST(TelescopeFile, ATitleAbove1023BytesIsWrittenWholeAndReadCut)
+{
+    for (const std::size_t length : {1022u, 1023u, 1024u, 5000u}) {
+        COrrevaData data;
+        data.SetTitle(std::string(length, 't').c_str());
+        data.SetMirrorDiameter(200);
+        EXPECT_EQ("<title>" + std::string(length, 't') + "</title>", Line(WriteTelescope(data), "title"));
+        COrrevaData back;
+        Read(WriteTelescope(data), back);
+        EXPECT_EQ(std::string(std::min<std::size_t>(length, 1023), 't'), back.title.GetText());
+        EXPECT_EQ(200, back.mirror_diameter) << "and nothing behind it is lost";
+    }
+}
+
 TEST(TelescopeFile, CarriageReturnsBeforeLineFeedsAreNoPartOfTheText)
 {
     COrrevaData data;
@@ -239,7 +275,8 @@ TEST(TelescopeFile, AZeroByteEndsTheText)
 TEST(TelescopeFile, SaveWritesAndClearsModified)
 {
     const TemporaryFolder folder;
-    COrrevaData data(nullptr, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(nullptr, &files);
     data.Reset();
     data.SetModified(1);
     EXPECT_EQ(0, data.Save());
@@ -251,7 +288,8 @@ TEST(TelescopeFile, SaveAsTakesPathAndTitle)
 {
     const TemporaryFolder folder;
     RecordingHost host;
-    COrrevaData data(&host, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(&host, &files);
     host.Take();
     EXPECT_EQ(0, data.SaveAs("mine.orreva.xml"));
     EXPECT_STREQ("mine.orreva.xml", data.file_path);
@@ -265,7 +303,8 @@ TEST(TelescopeFile, AFailedSaveIsSilentAndLeavesEverything)
     std::filesystem::create_directory("folder");
     folder.Write("kept", "old bytes");
     RecordingHost host;
-    COrrevaData data(&host, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(&host, &files);
     for (const char* path : {"folder", "missing/x.orreva.xml", "/dev/full"}) {
         data.file_path = path;
         data.SetModified(1);
@@ -294,7 +333,8 @@ TEST(TelescopeFile, SavingWithoutAPathFailsByAssertion)
 {
     Answer answer;
     AssertDesktop* const before = SetAssertDesktop(&answer);
-    COrrevaData data(nullptr, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(nullptr, &files);
     EXPECT_EQ(1, data.Save());
     EXPECT_EQ(1, data.SaveAs(""));
     SetAssertDesktop(before);
@@ -307,7 +347,8 @@ TEST(TelescopeFile, LoadOfAMissingFileTellsTheRecordsOwnPathAndClears)
 {
     const TemporaryFolder folder;
     RecordingHost host;
-    COrrevaData data(&host, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(&host, &files);
     data.Reset();
     host.Take();
     EXPECT_EQ(1, data.Load("missing.orreva.xml"));
@@ -324,7 +365,8 @@ TEST(TelescopeFile, LoadTakesPathTitleAndValues)
     folder.Write("a.orreva.xml",
                  "<telescope><title>A</title><mirror><diameter>150</diameter></mirror></telescope>");
     RecordingHost host;
-    COrrevaData data(&host, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(&host, &files);
     data.SetModified(1);
     host.Take();
     EXPECT_EQ(0, data.Load("a.orreva.xml"));
@@ -340,7 +382,8 @@ TEST(TelescopeFile, LoadTakesTheRecordsOwnPath)
     const TemporaryFolder folder;
     folder.Write("a telescope whose name is longer than a short string.orreva.xml",
                  "<telescope><title>A</title><mirror><diameter>150</diameter></mirror></telescope>");
-    COrrevaData data(nullptr, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(nullptr, &files);
     data.file_path = "a telescope whose name is longer than a short string.orreva.xml";
     EXPECT_EQ(0, data.Load(data.file_path));
     EXPECT_EQ(150, data.mirror_diameter);
@@ -351,7 +394,8 @@ TEST(TelescopeFile, WhatExistsButCannotBeReadGivesZerosAndSucceeds)
 {
     const TemporaryFolder folder;
     std::filesystem::create_directory("folder");
-    COrrevaData data(nullptr, &DesignFiles());
+    DesignFiles files;
+    COrrevaData data(nullptr, &files);
     EXPECT_EQ(0, data.Load("folder"));
     EXPECT_EQ(0, data.mirror_diameter);
     EXPECT_EQ(0, data.tube_type);
@@ -372,7 +416,8 @@ TEST(TelescopeFile, SurvivesOddFiles)
                                  std::string("\x00\xFF\xFE<telescope", 14)};
     for (const std::string& bytes : files) {
         folder.Write("odd", bytes);
-        COrrevaData data(nullptr, &DesignFiles());
+        DesignFiles designs;
+        COrrevaData data(nullptr, &designs);
         EXPECT_EQ(0, data.Load("odd"));
         EXPECT_EQ(0, data.mirror_diameter);
     }

@@ -1,7 +1,10 @@
 #include "document/WhatIfBar.h"
 
 #include "lib/text/LogSink.h"
+#include "model/analysis/Primary.h"
+#include "model/analysis/Secondary.h"
 #include "support/RecordingHost.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -81,10 +84,24 @@ TEST_F(WhatIfBar, SelectionCentresTheSliderWithoutRecomputing)
 TEST_F(WhatIfBar, SlidingWritesWholeMillimetresAndRefreshesTwice)
 {
     SelectBarParameter(doc, 2);
-    SlideBar(doc, 46);
-    EXPECT_EQ(46.0, data.secondary_diameter);
+    SlideBar(doc, 47);
+    EXPECT_EQ(47.0, data.secondary_diameter);
     EXPECT_EQ((std::vector<std::string>{"update", "update"}), host.Take());
     EXPECT_EQ(1, data.IsModified());
+}
+
+TEST_F(WhatIfBar, TakesAValueBetweenTheSlidersPlaces)
+{
+    TryBarValue(doc, 54.356, 54);
+    EXPECT_TRUE(host.Take().empty()) << "nothing is under trial";
+    SelectBarParameter(doc, 2);
+    TryBarValue(doc, 54.356, 54);
+    EXPECT_EQ(54.356, data.secondary_diameter);
+    host.Take();
+    SlideBar(doc, 54); // the slider's repaint
+    EXPECT_EQ(54.356, data.secondary_diameter);
+    ResetBar(doc);
+    EXPECT_EQ(46.482, data.GetSecondaryDiameter());
 }
 
 TEST_F(WhatIfBar, AnotherSelectionUndoesTheTrial)
@@ -119,8 +136,138 @@ TEST_F(WhatIfBar, ResetRestoresCentresAndRefreshes)
     SlideBar(doc, 60);
     host.Take();
     ExpectState(ResetBar(doc), 23, 92, 46);
-    EXPECT_DOUBLE_EQ(46.482, data.secondary_diameter);
+    EXPECT_EQ(46.482, data.secondary_diameter);
     EXPECT_EQ((std::vector<std::string>{"update", "update"}), host.Take());
+    SlideBar(doc, 46);
+    EXPECT_EQ(46.482, data.secondary_diameter) << "the slider stands there: a repaint is no move";
+}
+
+TEST_F(WhatIfBar, ARepaintWithoutAMoveWritesNothing)
+{
+    SelectBarParameter(doc, 2);
+    SlideBar(doc, 46);
+    EXPECT_EQ(46.482, data.secondary_diameter);
+    EXPECT_EQ(0, data.IsModified());
+    EXPECT_TRUE(host.Take().empty());
+    SlideBar(doc, 47);
+    EXPECT_EQ(47.0, data.secondary_diameter);
+    host.Take();
+    SlideBar(doc, 47);
+    EXPECT_TRUE(host.Take().empty());
+    SlideBar(doc, 46);
+    EXPECT_EQ(46.0, data.secondary_diameter) << "back at the old place it is a move";
+}
+
+TEST_F(WhatIfBar, ATrialTakenBackLeavesWhatTheBuilderEntered)
+{
+    data.SetSecondaryOffset(5.0);
+    data.SetWeightMirror(4321.0);
+    for (const bool escape : {true, false}) {
+        data.SetModified(0);
+        SelectBarParameter(doc, 0);
+        SlideBar(doc, 2000);
+        EXPECT_NE(5.0, data.GetSecondaryOffset());
+        if (escape) {
+            CancelBar(doc);
+        } else {
+            SelectBarParameter(doc, 1);
+        }
+        EXPECT_EQ(1500.0, data.focal_length);
+        EXPECT_EQ(5.0, data.GetSecondaryOffset());
+        EXPECT_EQ(4321.0, data.GetWeightMirror());
+        EXPECT_EQ(0, data.IsModified()) << "it is the file's telescope again";
+        CancelBar(doc);
+    }
+}
+
+TEST_F(WhatIfBar, ATrialThatWasSavedAndIsTakenBackDiffersFromTheFile)
+{
+    const TemporaryFolder folder;
+    data.file_path = "scope.orreva.xml";
+    SelectBarParameter(doc, 0);
+    SlideBar(doc, 2000);
+    doc.OnFileSave();
+    EXPECT_EQ(0, data.IsModified());
+    CancelBar(doc);
+    EXPECT_EQ(1, data.IsModified());
+}
+
+TEST_F(WhatIfBar, CancelEndsTheTrialAndRefreshes)
+{
+    SelectBarParameter(doc, 2);
+    SlideBar(doc, 60);
+    host.Take();
+    CancelBar(doc);
+    EXPECT_EQ(46.482, data.secondary_diameter);
+    EXPECT_FALSE(TrialAmong(doc.bar_params).has_value());
+    EXPECT_FALSE(host.Take().empty());
+    SlideBar(doc, 50);
+    EXPECT_EQ(46.482, data.secondary_diameter);
+}
+
+TEST_F(WhatIfBar, ASheetThatStoresTheParameterEndsTheTrialAndKeepsItsValue)
+{
+    SelectBarParameter(doc, 0);
+    SlideBar(doc, 1480);
+    StoreNumber(data, kPrimaryThickness, "30");
+    EXPECT_EQ(0, TrialAmong(doc.bar_params)) << "another number";
+    StoreNumber(data, kPrimaryFocalLength, "1480.00");
+    EXPECT_FALSE(TrialAmong(doc.bar_params).has_value());
+    EXPECT_EQ(1480.0, data.focal_length);
+    SelectBarParameter(doc, 1);
+    EXPECT_EQ(1480.0, data.focal_length);
+}
+
+TEST_F(WhatIfBar, WhatASheetStoredMeanwhileIsNotTakenBackWithTheTrial)
+{
+    SelectBarParameter(doc, 0);
+    SlideBar(doc, 1480);
+    StoreNumber(data, kPrimaryThickness, "30");
+    CancelBar(doc);
+    EXPECT_EQ(1500.0, data.focal_length);
+    EXPECT_EQ(30.0, data.mirror_thickness);
+}
+
+TEST_F(WhatIfBar, AResetInASheetStoresToo)
+{
+    SelectBarParameter(doc, 2);
+    SlideBar(doc, 60);
+    ResetNumber(data, kSecondaryMinorAxis);
+    EXPECT_FALSE(TrialAmong(doc.bar_params).has_value());
+}
+
+TEST_F(WhatIfBar, SaysWhatIsTriedWithUpToTwoDecimals)
+{
+    EXPECT_EQ("", BarTrialText(doc, kEnglish));
+    SelectBarParameter(doc, 0);
+    SlideBar(doc, 1480);
+    EXPECT_EQ("Brennweite 1480 mm (was 1500 mm)", BarTrialText(doc, kEnglish));
+    EXPECT_EQ("Brennweite 1480 mm (vorher 1500 mm)", BarTrialText(doc, kGerman));
+    data.SetFocuserHeight(40.504);
+    SelectBarParameter(doc, 5);
+    SlideBar(doc, 41);
+    EXPECT_EQ("OAZ-H\xF6he 41 mm (was 40.5 mm)", BarTrialText(doc, kEnglish));
+    SelectBarParameter(doc, 2);
+    EXPECT_EQ("Fangspiegeldurchmesser 46.48 mm (was 46.48 mm)", BarTrialText(doc, kEnglish));
+    CancelBar(doc);
+    EXPECT_EQ("", BarTrialText(doc, kEnglish));
+}
+
+TEST_F(WhatIfBar, AcceptIsAStepAndATrialAloneIsNone)
+{
+    doc.BeginCommand();
+    SelectBarParameter(doc, 0);
+    SlideBar(doc, 2000);
+    EXPECT_EQ(nullptr, doc.Steps().UndoName());
+    AcceptBar(doc);
+    ASSERT_NE(nullptr, doc.Steps().UndoName());
+    EXPECT_STREQ("Brennweite", doc.Steps().UndoName()->german);
+    SlideBar(doc, 2500);
+    CancelBar(doc);
+    EXPECT_EQ(2000.0, data.focal_length) << "the accepted one";
+    doc.BeginCommand();
+    doc.OnUndo();
+    EXPECT_EQ(1500.0, data.focal_length);
 }
 
 TEST_F(WhatIfBar, AcceptKeepsTheTrialAndLeavesThePosition)
@@ -181,7 +328,7 @@ TEST_F(WhatIfBar, OddValuesStayInRange)
     ExpectState(SelectBarParameter(doc, 6), 1073741823, most, most);
     data.SetFocuserSpare(-100);
     data.SetFocuserHeight(-100);
-    ExpectState(SelectBarParameter(doc, 5), -50, -200, -100);
+    ExpectState(SelectBarParameter(doc, 5), -200, -50, -100);
 }
 
 } // namespace

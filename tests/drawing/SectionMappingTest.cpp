@@ -26,6 +26,16 @@ TEST(SectionMapping, FitsTheTelescopeIntoThePicture)
     EXPECT_DOUBLE_EQ(2, FitSection(record, {3000, 650}).scale);
 }
 
+TEST(SectionMapping, TakesAScaleOfTheCallers)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    const SectionMapping map = SectionAtScale(record, {1200, 1000}, 0.5);
+    EXPECT_DOUBLE_EQ(0.5, map.scale);
+    EXPECT_DOUBLE_EQ(333.25, map.offsetX); // (1200 - 533.5) / 2
+    EXPECT_DOUBLE_EQ(206.25, map.offsetY); // (1000 - 175) / 2 / 2
+}
+
 TEST(SectionMapping, RoundsPointsAndGivesRectanglesAtLeastAPixel)
 {
     const SectionMapping map{2.0, 10.0, 20.0, {}};

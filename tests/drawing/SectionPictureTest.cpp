@@ -188,6 +188,14 @@ TEST_F(SectionPicture, CountsTheScaleFromTheRearEnd)
     EXPECT_TRUE(Has(window, drawn::Text{{172, 551}, "900", kSmallFont, kWhite}));
 }
 
+TEST_F(SectionPicture, SetsTheScaleBelowTheTubeByWholeMillimetresOfItsWall)
+{
+    // The tube is 220 + 21.8 = 241.8 mm wide, the picture 351.8 mm high: offset (1000 - 351.8) / 4 = 162.05.
+    record.SetThicknessHat(10.9);
+    // 80 + 241.8 + 10 + 60 = 391.8, and 554.35 with the offset and a half; the wall's 10.9 would give 555.25.
+    EXPECT_EQ((drawn::Line{{102, 554}, {1072, 554}, kWhite}), Paint().Of<drawn::Line>().at(0));
+}
+
 TEST_F(SectionPicture, WidensTheScalesStepsWithTheTube)
 {
     struct Case {
@@ -320,6 +328,23 @@ TEST_F(SectionPicture, EndsForEveryNumberInTheRecord)
                 EXPECT_GT(window.calls.size(), 10u);
             }
         }
+    }
+}
+
+TEST_F(SectionPicture, AtAScaleOfTheCallersIsTheSamePicture)
+{
+    RecordingSurface atOne(1077, 1000);
+    PaintSectionAtScale(atOne, record, 1);
+    EXPECT_EQ(Paint().calls, atOne.calls) << "the window has room for a pixel a millimetre";
+
+    // Half the size, in the middle: x / 2 + (1077 - 533.5) / 2, y / 2 + (1000 - 175) / 4.
+    RecordingSurface half(1077, 1000);
+    PaintSectionAtScale(half, record, 0.5);
+    const auto* const tube = std::get_if<drawn::FillRect>(&half.calls.at(1));
+    ASSERT_NE(nullptr, tube);
+    EXPECT_EQ(320, tube->rect.left); // 97 / 2 + 271.75
+    for (const double odd : {0.0, -1.0, 1e300, static_cast<double>(HUGE_VAL), std::nan("")}) {
+        PaintSectionAtScale(half, record, odd);
     }
 }
 

@@ -37,6 +37,14 @@ TEST(SectionZoom, GoesBackByRightClicksInWholeNumbers)
     EXPECT_EQ((SectionZoom{1, 22, 9}), view) << "nothing changes at the first step";
 }
 
+TEST(SectionZoom, DividesBeforeItMultiplies)
+{
+    SectionZoom view{5, 114, 59};
+    view.RightClick();
+    EXPECT_EQ((SectionZoom{4, 88, 44}), view)
+        << "22 and 11 four times; 114 * 4 / 5 and 59 * 4 / 5 are 91 and 47";
+}
+
 TEST(SectionZoom, IsPulledBackWhereThePictureCoversTheWindow)
 {
     SectionZoom view{3, 5000, 4000};

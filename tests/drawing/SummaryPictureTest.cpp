@@ -70,6 +70,84 @@ TEST(SummaryPicture, MovesWhatFollowsDownWhenALabelWraps)
     FAIL() << "the row is missing";
 }
 
+TEST(SummaryPicture, KeepsItsColumnsInANarrowPane)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    RecordingSurface wide(400, 700);
+    PaintSummary(wide, record, {20, 1.5}, kGerman);
+    for (const std::int32_t width : {1, 100, 159, 399, 3000}) {
+        RecordingSurface pane(width, 700);
+        PaintSummary(pane, record, {20, 1.5}, kGerman);
+        EXPECT_EQ(wide.Of<drawn::WrappedText>(), pane.Of<drawn::WrappedText>()) << width;
+    }
+}
+
+TEST(SummaryPicture, SetsEachRowBelowTheLinesOfThoseAbove)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    record.SetTitle(
+        std::string(61, 't').append(" wraps").c_str()); // 67 characters, of which 66 fit into a row
+    RecordingSurface pane(400, 700);
+    PaintSummary(pane, record, {20, 1.5}, kGerman);
+    // The lines that a row takes: 26 characters fit beside the values. A heading stands 10 pixels lower.
+    struct Row {
+        const char* label;
+        int lines;
+        bool heading = false;
+    };
+    const std::string title = record.GetTitle().GetText();
+    const Row rows[] = {
+        {title.c_str(), 2},
+        {"Hauptspiegel", 1, true},
+        {"Durchmesser:", 1},
+        {"Brennweite:", 1},
+        {"\xD6"
+         "ffnungsverh\xE4ltnis:",
+         1},
+        {"Dicke:", 1},
+        {"Fangspiegel", 1, true},
+        {"Durchmesser der kleinen Achse:", 2},
+        {"Offset:", 1},
+        {"Tubus", 1, true},
+        {"L\xE4nge:", 1},
+        {"Durchmesser:", 1},
+        {"Wanddicke:", 1},
+        {"Focuser", 1, true},
+        {"Durchmesser:", 1},
+        {"H\xF6he:", 1},
+        {"Extra H\xF6he f\xFCr Zubeh\xF6r:", 1},
+        {"Ma\xDF"
+         "e:",
+         1, true},
+        {"Brennebene \xFC"
+         "ber Tubus:",
+         1},
+        {"Brennebene \xFC"
+         "ber optischer Achse:",
+         2},
+        {"Hauptspiegel hinter OAZ-Centruem:", 2},
+        {"Begrenzende Faktoren des 100% FOV:", 2, true},
+        {"Tubus\xF6"
+         "ffnung:",
+         1},
+        {"Fangspiegel:", 1},
+        {"Focuser:", 1},
+    };
+    std::vector<drawn::WrappedText> labels = pane.Of<drawn::WrappedText>();
+    std::erase_if(labels, [](const auto& text) { return text.box.left != 2; });
+    ASSERT_EQ(std::size(rows), labels.size());
+    std::int32_t y = 2;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        y += rows[i].heading ? 10 : 0;
+        EXPECT_EQ(rows[i].label, labels[i].text);
+        EXPECT_EQ(y, labels[i].box.top) << rows[i].label;
+        EXPECT_EQ(i == 0 ? 400 : 160, labels[i].box.right) << rows[i].label;
+        y += 14 * rows[i].lines;
+    }
+}
+
 TEST(SummaryPicture, WritesAWarningValueRedAndItsLabelLight)
 {
     COrrevaData record;

@@ -7,11 +7,13 @@
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPicture>
 
 #include <cstdint>
 #include <functional>
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -300,6 +302,111 @@ TEST(PainterSurface, DrawsTheSeenPartOfALineThatIsFarTooLong)
     EXPECT_EQ((Picture{"r..", ".r.", "..r"}), Rows(Painted(3, 3, [](Surface& surface) {
                   surface.Line({kLeast + 1, kLeast + 1}, {kMost, kMost}, kRed);
               })));
+}
+
+/// What a page of lines, not of pixels, shows of a picture: painted to `page`, played back in the middle of
+/// an image three times its size, so that what lies outside the page is seen too.
+QImage PlayedBack(QSize page, const std::function<void(Surface&)>& paint)
+{
+    QPicture picture;
+    {
+        QPainter painter(&picture);
+        PainterSurface surface(painter, page.width(), page.height());
+        paint(surface);
+    }
+    QImage image(page * 3, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.drawPicture(page.width(), page.height(), picture);
+    return image;
+}
+
+TEST(PainterSurface, DrawsNothingOfALineBesideAPage)
+{
+    const std::pair<Pixel, Pixel> lines[] = {
+        {{-15, -5}, {35, -5}}, {{-15, 12}, {35, 12}}, // above, below
+        {{-4, -8}, {-4, 18}},  {{25, -8}, {25, 18}},  // left, right
+        {{-15, 4}, {-3, 6}},   {{23, 4}, {35, 6}},    // short ones beside it
+        {{-9, 3}, {4, -8}},    {{16, 18}, {30, 4}},   // past a corner
+        {{-12, 5}, {-2, 5}},   {{5, -9}, {5, -2}},    // level and upright ones that end before it
+        {{22, 5}, {30, 5}},    {{5, 12}, {5, 18}},
+    };
+    for (const auto& [from, to] : lines) {
+        const QImage image = PlayedBack({20, 10}, [&](Surface& surface) { surface.Line(from, to, kRed); });
+        EXPECT_EQ(QRect(), Inked(image)) << from.x << " " << from.y << " to " << to.x << " " << to.y;
+    }
+}
+
+TEST(PainterSurface, CutsALineAtTheEdgesOfAPage)
+{
+    const QRect page(20, 10, 21, 11); // with the pixel that a line's end at an edge may take
+    const std::pair<Pixel, Pixel> lines[] = {{{-15, 5}, {35, 5}},
+                                             {{35, 5}, {-15, 5}},
+                                             {{7, -8}, {7, 18}},
+                                             {{7, 18}, {7, -8}},
+                                             {{-10, -5}, {30, 15}}};
+    for (const auto& [from, to] : lines) {
+        const QRect ink =
+            Inked(PlayedBack({20, 10}, [&](Surface& surface) { surface.Line(from, to, kRed); }));
+        EXPECT_TRUE(page.contains(ink)) << from.x << " " << from.y;
+        EXPECT_TRUE(ink.width() >= 19 || ink.height() >= 9)
+            << "from edge to edge: " << from.x << " " << from.y;
+    }
+    // One that lies within comes whole.
+    EXPECT_EQ(QRect(23, 14, 5, 1), Inked(PlayedBack({20, 10}, [](Surface& surface) {
+                  surface.Line({3, 4}, {7, 4}, kRed);
+              })));
+}
+
+TEST(PainterSurface, FillsNothingBesideAPage)
+{
+    const struct {
+        PixelRect rect;
+        QRect filled;
+    } cases[] = {
+        {{-9, 2, 5, 4}, {20, 12, 5, 2}},  // over the left edge
+        {{15, 2, 39, 4}, {35, 12, 5, 2}}, // the right one
+        {{3, -7, 5, 4}, {23, 10, 2, 4}},  // the upper one
+        {{3, 8, 5, 19}, {23, 18, 2, 2}},  // the lower one
+        {{-9, -9, 39, 19}, {20, 10, 20, 10}},
+        {{-9, 2, -1, 4}, {}},
+        {{20, 2, 30, 4}, {}},
+        {{3, 10, 5, 15}, {}},
+        {{3, -5, 5, 0}, {}},
+    };
+    for (const auto& [rect, filled] : cases) {
+        EXPECT_EQ(filled,
+                  Inked(PlayedBack({20, 10}, [&](Surface& surface) { surface.FillRect(rect, kRed); })))
+            << rect.left << " " << rect.top;
+    }
+}
+
+TEST(PainterSurface, ShowsWhatReachesInOfATextThatStartsAtAnEdge)
+{
+    const Font plain{20, Font::kNormal};
+    const Font upright{20, Font::kNormal, true};
+    const struct {
+        const char* what;
+        Pixel at;
+        Font font;
+        QRect within; ///< where its ink must be, in a picture of 100 by 60
+    } cases[] = {
+        {"right", {97, 20}, plain, {97, 20, 3, 21}},
+        {"left, beginning outside", {-45, 20}, plain, {0, 20, 85, 21}},
+        {"lower", {30, 52}, plain, {30, 52, 70, 8}},
+        {"upper", {30, -12}, plain, {30, 0, 70, 9}},
+        {"upright, right", {92, 55}, upright, {92, 0, 8, 55}},
+        {"upright, left", {-12, 55}, upright, {0, 0, 9, 55}},
+        {"upright, beginning below", {40, 90}, upright, {40, 0, 21, 60}},
+        {"upright, upper", {40, 4}, upright, {40, 0, 21, 4}},
+    };
+    for (const auto& one : cases) {
+        const QImage image =
+            Painted(100, 60, [&](Surface& surface) { surface.Text(one.at, "MHMHMHMH", one.font, kBlack); });
+        const QRect ink = Inked(image);
+        EXPECT_FALSE(ink.isEmpty()) << one.what;
+        EXPECT_TRUE(one.within.contains(ink)) << one.what << " " << ink.left() << " " << ink.top();
+    }
 }
 
 TEST(PainterSurface, CutsATextThatNoPageCanHold)

@@ -83,6 +83,20 @@ TEST(ParallelStatus, HasNoThirdValueWithoutAFocalPlaneOrAMirror)
     }
 }
 
+TEST(ParallelStatus, IsFullWhereTheImageIsJustAsLargeAsTheDiagonal)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    record.SetMirrorDiameter(0); // so that the sizes alone decide
+    constexpr double kAngle = kHalfPi - 0.02;
+    const double image = ParallelStatus(record, kAngle).imageMm;
+    ASSERT_GT(image, 0);
+    record.SetSecondaryDiameter(image);
+    EXPECT_EQ(100, ParallelStatus(record, kAngle).illuminationPercent);
+    record.SetSecondaryDiameter(std::nextafter(image, 0));
+    EXPECT_EQ(0, ParallelStatus(record, kAngle).illuminationPercent);
+}
+
 TEST(ParallelStatus, IsWrittenInBothLanguages)
 {
     const ParallelFigures figures{1.40625, 49.0898, 75.318};

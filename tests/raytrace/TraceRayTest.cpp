@@ -225,6 +225,172 @@ TEST(TraceRay, DoesNotCountAWallThatTheRayRunsOn)
     EXPECT_EQ((std::vector<RaySegment>{{-50, g.top, 0, 0, RayLost}}), segments);
 }
 
+/// The round scope so far out in both directions that a level ray stays on its height to the last bit, that
+/// the skew of a vertical line is a power of two and the diagonal's slope one: hits are whole numbers.
+struct FarScope {
+    static constexpr double kX = 67108864; // 2^26
+    static constexpr double kY = 131072;   // 2^17
+    static inline const double kLevel = std::acos(0.0);
+
+    FarScope()
+    {
+        MakeRoundScope(record);
+        g = BuildGeometry(record, false);
+        for (double ScopeGeometry::*x : {&ScopeGeometry::frontX, &ScopeGeometry::focuserX}) {
+            g.*x += kX;
+        }
+        g.top = kY + 80;
+        g.axisY = kY + 200;
+        g.mirrorX = kX + 997;
+        g.mirrorTop = g.axisY - 128;
+        g.mirrorBottom = g.axisY + 128;
+        g.secondaryLeft = kX + 165;
+        g.secondaryRight = kX + 229;
+        g.secondaryTop = g.axisY - 32;
+        g.secondaryBottom = g.axisY + 32;
+    }
+
+    /// The first segment of a level ray.
+    RaySegment First(double x, double y)
+    {
+        std::vector<RaySegment> segments;
+        TraceRay(g, record, x, y, kLevel, true, &segments);
+        return segments.at(0);
+    }
+
+    COrrevaData record;
+    ScopeGeometry g;
+};
+
+TEST(TraceRay, TheBackOfTheFlatStopsARayAtEitherEndOfItsHeight)
+{
+    FarScope scope;
+    const double x = FarScope::kX;
+    const double top = scope.g.secondaryTop;
+    const double bottom = scope.g.secondaryBottom;
+    EXPECT_EQ((RaySegment{x, top, x + 165, top, RayLost}), scope.First(x, top));
+    EXPECT_EQ((RaySegment{x, bottom, x + 229, bottom, RayLost}), scope.First(x, bottom));
+    for (const double beside : {top - 1, bottom + 1}) {
+        EXPECT_EQ(RayHit, scope.First(x, beside).colour);
+        EXPECT_NEAR(x + 997, scope.First(x, beside).x1, 1e-7) << "on to the mirror";
+    }
+}
+
+TEST(TraceRay, TheMirrorEndsWithItsOutermostPoints)
+{
+    FarScope scope;
+    const double x = FarScope::kX + 300; // behind the flat
+    for (const double y : {scope.g.mirrorTop, scope.g.mirrorBottom}) {
+        EXPECT_EQ(RayHit, scope.First(x, y).colour);
+        ASSERT_EQ(y, scope.First(x, y).y1) << "level to the last bit";
+    }
+    for (const double y : {scope.g.mirrorTop - 1, scope.g.mirrorBottom + 1}) {
+        EXPECT_EQ(RayLost, scope.First(x, y).colour);
+    }
+}
+
+TEST(TraceRay, TheFlatTakesARayAtEitherOfItsEnds)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    ScopeGeometry g = BuildGeometry(record, false);
+    g.secondaryTop = g.secondaryBottom = 200; // level, so that the hit does not depend on the ends
+    const auto segments = [&] {
+        std::vector<RaySegment> traced;
+        TraceRay(g, record, 600, 150, kHalfPi, true, &traced);
+        return traced;
+    };
+    g.secondaryRight = 997;
+    g.secondaryLeft = -1000;
+    const double hit = segments().at(1).x1;
+    ASSERT_GT(600, hit);
+    ASSERT_LT(-1000, hit);
+    g.secondaryLeft = hit;
+    EXPECT_EQ(RayHit, segments().at(1).colour);
+    g.secondaryLeft = std::nextafter(hit, 997);
+    EXPECT_EQ(RayLost, segments().at(1).colour) << "it passes above";
+    g.secondaryLeft = -1000;
+    g.secondaryRight = hit;
+    EXPECT_EQ(RayHit, segments().at(1).colour);
+    g.secondaryRight = std::nextafter(hit, -1000);
+    EXPECT_EQ(RayLost, segments().at(1).colour) << "it passes below";
+}
+
+/// Where a ray that runs along the axis through the round scope meets the tube's opening and the focal plane.
+class FocuserEnds : public testing::Test {
+protected:
+    static constexpr double kUpper = 120; // crosses the focuser to the right
+    static constexpr double kLower = 290; // crosses the focuser to the left
+
+    FocuserEnds()
+    {
+        MakeRoundScope(record);
+        g = BuildGeometry(record, false);
+    }
+    std::vector<RaySegment> Trace(double y, double centre, double diameter)
+    {
+        record.SetFocuserDiameter(diameter);
+        g.focuserX = centre;
+        std::vector<RaySegment> segments;
+        TraceRay(g, record, 0, y, kHalfPi, true, &segments);
+        EXPECT_EQ(3u, segments.size());
+        return segments;
+    }
+
+    COrrevaData record;
+    ScopeGeometry g;
+};
+
+TEST_F(FocuserEnds, TheOpeningLetsARayPassAtEitherOfThem)
+{
+    const double upper = Trace(kUpper, 0, 1).at(2).x1; // lost at the opening
+    ASSERT_EQ(upper, upper + 16 - 16);
+    EXPECT_EQ(RayHit, Trace(kUpper, upper + 16, 32).at(2).colour);
+    const RaySegment left = Trace(kUpper, std::nextafter(upper, 1000) + 16, 32).at(2);
+    EXPECT_EQ(RayLost, left.colour);
+    EXPECT_EQ(upper, left.x1) << "at the opening";
+
+    const double lower = Trace(kLower, 0, 1).at(2).x1;
+    ASSERT_EQ(lower, lower - 16 + 16);
+    EXPECT_EQ(RayHit, Trace(kLower, lower - 16, 32).at(2).colour);
+    const RaySegment right = Trace(kLower, std::nextafter(lower, 0) - 16, 32).at(2);
+    EXPECT_EQ(RayLost, right.colour);
+    EXPECT_EQ(lower, right.x1);
+}
+
+TEST_F(FocuserEnds, TheFocuserLetsARayLandAtEitherOfThem)
+{
+    const double upper = Trace(kUpper, 197, 200).at(2).x1; // at the focal plane
+    EXPECT_EQ(RayHit, Trace(kUpper, upper - 16, 32).at(2).colour);
+    EXPECT_EQ(RayLost, Trace(kUpper, std::nextafter(upper, 0) - 16, 32).at(2).colour);
+    const double lower = Trace(kLower, 197, 200).at(2).x1;
+    EXPECT_EQ(RayHit, Trace(kLower, lower + 16, 32).at(2).colour);
+    EXPECT_EQ(RayLost, Trace(kLower, std::nextafter(lower, 1000) + 16, 32).at(2).colour);
+}
+
+TEST(TraceRay, TheTubeIsOpenAtItsVeryEnds)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    ScopeGeometry g = BuildGeometry(record, false);
+    const auto end = [&] { // of a ray from above the tube that falls on its upper wall's line
+        std::vector<RaySegment> segments;
+        TraceRay(g, record, 500, 50, kHalfPi - 0.1, true, &segments);
+        return segments.at(0);
+    };
+    const double hit = end().x1;
+    ASSERT_NEAR(80, end().y1, kNear);
+    g.frontX = hit;
+    EXPECT_NE(hit, end().x1) << "the wall begins behind its end";
+    g.frontX = std::nextafter(hit, 0);
+    EXPECT_EQ(hit, end().x1);
+    g.frontX = 0;
+    g.tubeLength = hit;
+    EXPECT_NE(hit, end().x1);
+    g.tubeLength = std::nextafter(hit, 10000);
+    EXPECT_EQ(hit, end().x1);
+}
+
 TEST(TraceRay, EndsForEveryNumber)
 {
     const double angles[] = {0, kPi, -1, 1e300, -1e300, HUGE_VAL, std::nan(""), 5e-324};

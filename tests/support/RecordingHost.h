@@ -19,6 +19,8 @@ public:
     std::deque<bool> settings;
     std::deque<bool> modals;
     bool new_document = true;
+    std::optional<std::size_t> earlier; ///< the answer to each list of earlier designs
+    std::string status;                 ///< the message that the status bar shows
     /// Run while a modal is open.
     std::function<void(Modal)> in_modal;
 
@@ -64,6 +66,15 @@ public:
             in_modal(modal);
         }
         return Take(modals, false);
+    }
+
+    void ShowStatus(const char* text) override { status = text; }
+    std::optional<std::size_t> AskEarlierDesign(std::span<const RescueCopy> copies,
+                                                std::optional<std::size_t> selected) override
+    {
+        events.push_back("earlier designs " + std::to_string(copies.size()) +
+                         (selected ? " at " + std::to_string(*selected) : ""));
+        return earlier;
     }
 
     /// The events since the last call.

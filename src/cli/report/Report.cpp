@@ -16,9 +16,10 @@ const ReportPage* FindReportPage(std::string_view name)
 void WriteReport(std::span<const ReportPage* const> pages, const ReportContext& context,
                  const ReportSink& sink)
 {
-    for (const ReportPage* page : pages) {
-        sink(std::string("# ") + page->name);
-        page->write(context, sink);
+    bool more = true;
+    const ReportSink forward = [&](const std::string& line) { return more = more && sink(line); };
+    for (std::size_t i = 0; i < pages.size() && forward(std::string("# ") + pages[i]->name); ++i) {
+        pages[i]->write(context, forward);
     }
 }
 

@@ -43,6 +43,7 @@ using ReportSink = std::function<bool(const std::string& line)>;
 struct ReportPage {
     const char* name;
     void (*write)(const ReportContext& context, const ReportSink& sink);
+    bool only_when_named = false; ///< not among the pages of a report without a choice
 };
 
 /// All pages in the order in which a report without a choice prints them.
@@ -75,14 +76,26 @@ ReportLines SecondaryReport(const ReportContext& context);
 ReportLines TubeReport(const ReportContext& context);
 ReportLines FocuserReport(const ReportContext& context);
 ReportLines CellReport(const ReportContext& context);
-ReportLines EyepiecesReport(const ReportContext& context);
+/// A long list is passed on eyepiece by eyepiece; a last line says that it goes on.
+void EyepiecesReport(const ReportContext& context, const ReportSink& sink);
 ReportLines BalanceReport(const ReportContext& context);
 
 // The optical tests and the simulated field ---------------------------------------------------------------
 
-/// The zone calculator. Its list may be longer than memory, so that no line is kept.
+/// The zone calculator. Its list may be longer than memory, so that no line is kept; behind 100,000 zones a
+/// line says that there are more.
 void FoucaultReport(const ReportContext& context, const ReportSink& sink);
 ReportLines RonchiReport(const ReportContext& context);
 ReportLines StarReport(const ReportContext& context);
 ReportLines MarksReport(const ReportContext& context);
 ReportLines FieldReport(const ReportContext& context);
+/// The exact light over the field; one line alone where there is none.
+ReportLines IlluminationReport(const ReportContext& context);
+
+// The report in other forms -------------------------------------------------------------------------------
+
+/// The pages as one csv table `page,cell1,cell2,...`, as wide as the widest row; UTF-8.
+std::string CsvReport(std::span<const ReportPage* const> pages, const ReportContext& context);
+
+/// The pages as a JSON array of {"page", "rows"}, a row being the array of its cells; UTF-8.
+std::string JsonReport(std::span<const ReportPage* const> pages, const ReportContext& context);

@@ -2,12 +2,17 @@
 
 #include "model/optics/CentreMarks.h"
 #include "model/optics/FieldSimulation.h"
+#include "model/optics/IlluminationCurve.h"
 #include "model/optics/RonchiTolerance.h"
 #include "model/optics/StarDistance.h"
 
+#include <algorithm>
 #include <sstream>
 
 namespace {
+
+/// No mask comes near it; the list itself may be longer than any disk.
+constexpr std::int32_t kMostZones = 100000;
 
 /// The lines of a text that has LF or CR LF between them.
 std::vector<std::string> LinesOf(const std::string& text)
@@ -44,8 +49,11 @@ void FoucaultReport(const ReportContext& context, const ReportSink& sink)
     }
     sink(ReportLine(titles));
     bool more = true;
-    for (std::int32_t i = 0; more && i < table.RowCount(); ++i) {
+    for (std::int32_t i = 0; more && i < std::min(table.RowCount(), kMostZones); ++i) {
         more = sink(ReportLine(table.Row(i)));
+    }
+    if (more && table.RowCount() > kMostZones) {
+        sink("more than " + std::to_string(kMostZones) + " zones");
     }
 }
 
@@ -77,4 +85,13 @@ ReportLines FieldReport(const ReportContext& context)
         lines.push_back(ReportLine(row));
     }
     return lines;
+}
+
+ReportLines IlluminationReport(const ReportContext& context)
+{
+    ReportLines lines;
+    for (const ListRow& row : IlluminationPageRows(ReadIlluminationStops(context.record))) {
+        lines.push_back(ReportLine(row));
+    }
+    return lines.empty() ? ReportLines{kNoIllumination} : lines;
 }

@@ -15,10 +15,10 @@ constexpr ReportPage kPages[] = {
     {"summary", Write<SummaryReport>},     {"primary", Write<PrimaryReport>},
     {"secondary", Write<SecondaryReport>}, {"tube", Write<TubeReport>},
     {"focuser", Write<FocuserReport>},     {"cell", Write<CellReport>},
-    {"eyepieces", Write<EyepiecesReport>}, {"balance", Write<BalanceReport>},
+    {"eyepieces", EyepiecesReport},        {"balance", Write<BalanceReport>},
     {"foucault", FoucaultReport},          {"ronchi", Write<RonchiReport>},
     {"star", Write<StarReport>},           {"marks", Write<MarksReport>},
-    {"field", Write<FieldReport>},
+    {"field", Write<FieldReport>},         {"illumination", Write<IlluminationReport>, true},
 };
 
 } // namespace

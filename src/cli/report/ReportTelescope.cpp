@@ -53,15 +53,23 @@ ReportLines CellReport(const ReportContext& context)
     return lines;
 }
 
-ReportLines EyepiecesReport(const ReportContext& context)
+void EyepiecesReport(const ReportContext& context, const ReportSink& sink)
 {
-    const std::vector<Eyepiece> eyepieces = LoadEyepieces(context.eyepiece_path);
-    ReportLines lines;
-    for (const std::size_t i : SortEyepieces(eyepieces)) {
-        lines.push_back(ReportLine({eyepieces[i].name}));
-        AppendRows(lines, EyepieceRows(context.record, eyepieces[i], context.language));
+    const EyepieceList list = LoadEyepieces(context.eyepiece_path);
+    bool more = true;
+    for (const std::size_t i : SortEyepieces(list.entries)) {
+        ReportLines lines{ReportLine({list.entries[i].name})};
+        AppendRows(lines, EyepieceRows(context.record, list.entries[i], context.language));
+        for (std::size_t k = 0; more && k < lines.size(); ++k) {
+            more = sink(lines[k]);
+        }
+        if (!more) {
+            return;
+        }
     }
-    return lines;
+    if (list.end != EyepieceList::End::kComplete) {
+        sink(EyepieceEndLine(list, context.eyepiece_path));
+    }
 }
 
 ReportLines BalanceReport(const ReportContext& context)

@@ -22,6 +22,8 @@ LogSink SetLogSink(LogSink sink)
     return before;
 }
 
+bool HasLogSink() { return g_sink != nullptr; }
+
 void SinkLine(const char* psz)
 {
     if (g_sink != nullptr) {

@@ -75,6 +75,18 @@ double DecimalValue(const char* psz)
     return end == number ? 0.0 : std::strtod(std::string(start, end).c_str(), nullptr);
 }
 
+std::string UnreadTail(const char* psz)
+{
+    const char* const start = SkipWhiteSpace(psz);
+    const char* const number = start + (*start == '-' || *start == '+' ? 1 : 0);
+    const char* const end = DecimalEnd(number);
+    std::string tail = SkipWhiteSpace(end == number ? start : end);
+    while (!tail.empty() && *SkipWhiteSpace(&tail.back()) == 0) {
+        tail.pop_back();
+    }
+    return tail;
+}
+
 std::int32_t IntegerValue(const char* psz)
 {
     const char* const start = SkipWhiteSpace(psz);
@@ -86,19 +98,44 @@ std::int32_t IntegerValue(const char* psz)
     return TruncToInt32(negative ? -value : value);
 }
 
+namespace {
+
+constexpr std::size_t kLongestText = 1000;
+
+bool IsReadable(const char* psz) { return psz != nullptr && std::strlen(psz) <= kLongestText; }
+
+/// The first comma counts as a point.
+std::string WithPoint(const char* psz)
+{
+    std::string copy(psz);
+    if (const std::size_t comma = copy.find(','); comma != std::string::npos) {
+        copy[comma] = '.';
+    }
+    return copy;
+}
+
+} // namespace
+
 double TextToDouble(const char* psz)
 {
-    constexpr std::size_t kLongestText = 1000;
-    if (psz == nullptr || std::strlen(psz) > kLongestText) {
+    if (!IsReadable(psz)) {
         return 0.0;
     }
     const char* const text = SkipBlanks(psz);
     if (StartsWith("1.#INF", text) != nullptr) {
         return HUGE_VAL;
     }
-    std::string copy(text);
-    if (const std::size_t comma = copy.find(','); comma != std::string::npos) {
-        copy[comma] = '.';
+    return DecimalValue(WithPoint(text).c_str());
+}
+
+bool IsNumberText(const char* psz)
+{
+    if (!IsReadable(psz)) {
+        return false;
     }
-    return DecimalValue(copy.c_str());
+    const std::string text = WithPoint(psz);
+    const char* const start = SkipWhiteSpace(text.c_str());
+    const char* const number = start + (*start == '-' || *start == '+' ? 1 : 0);
+    const char* const end = DecimalEnd(number);
+    return end != number && *SkipWhiteSpace(end) == 0;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 /// Pi and half of it as all formula code takes them: truncated, and not to be corrected.
 inline constexpr double kPi = 3.1415926535;
@@ -15,6 +16,10 @@ std::int32_t TruncToInt32(double value);
 /// its sign.
 double DecimalValue(const char* psz);
 
+/// What DecimalValue leaves unread: the text behind the number, all of it where there is none. Blanks at its
+/// ends do not count.
+std::string UnreadTail(const char* psz);
+
 /// As `atoi`: white space, sign, digits; ends of the 32-bit range for what does not fit.
 std::int32_t IntegerValue(const char* psz);
 
@@ -22,3 +27,7 @@ std::int32_t IntegerValue(const char* psz);
 /// characters or more are 0.0; leading blanks and tabs are skipped; "1.#INF" is the unset mark HUGE_VAL; the
 /// first comma counts as a point.
 double TextToDouble(const char* psz);
+
+/// Whether the whole text is a number that TextToDouble reads, between blanks: "1.#INF", words, an empty text
+/// and 1001 characters are none.
+bool IsNumberText(const char* psz);

@@ -1,9 +1,11 @@
 #include "model/analysis/Eyepieces.h"
 
 #include "lib/files/FileBytes.h"
+#include "lib/files/FileQueries.h"
 #include "lib/text/CharTools.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/FormatText.h"
+#include "lib/text/Language.h"
 #include "lib/text/Numbers.h"
 #include "model/rows/RowMaker.h"
 
@@ -39,10 +41,10 @@ double TakeNumber(LibString& line)
 
 } // namespace
 
-std::vector<Eyepiece> ParseEyepieces(std::string_view text)
+std::vector<Eyepiece> ParseEyepieces(std::string_view text, std::size_t most)
 {
     std::vector<Eyepiece> eyepieces;
-    while (!text.empty()) {
+    while (!text.empty() && eyepieces.size() < most) {
         LibString line(std::string(TakeLine(text).substr(0, kLineLimit)).c_str());
         line.TrimBlanks();
         if (IsSkipped(line)) {
@@ -58,9 +60,53 @@ std::vector<Eyepiece> ParseEyepieces(std::string_view text)
     return eyepieces;
 }
 
-std::vector<Eyepiece> LoadEyepieces(const char* path)
+EyepieceList LoadEyepieces(const char* path)
 {
-    return ParseEyepieces(ReadFileBytes(path).value_or(std::string()));
+    using End = EyepieceList::End;
+    const auto bytes = ReadFileBytes(path, EyepieceList::kMostBytes + 1);
+    if (!bytes) {
+        return {{}, FileExists(path) != 0 ? End::kUnreadable : End::kComplete};
+    }
+    std::string_view text = *bytes;
+    const bool cut = text.size() > EyepieceList::kMostBytes;
+    if (cut) {
+        text = text.substr(0, text.rfind('\n') + 1); // the line that the limit cuts is none
+    }
+    EyepieceList list{ParseEyepieces(text, EyepieceList::kMostEntries + 1),
+                      cut ? End::kMoreBytes : End::kComplete};
+    if (list.entries.size() > EyepieceList::kMostEntries) {
+        list.entries.resize(EyepieceList::kMostEntries);
+        list.end = End::kMoreEntries;
+    }
+    return list;
+}
+
+std::string EyepieceEndText(const EyepieceList& list, int language)
+{
+    constexpr Bilingual kTexts[] = {
+        {"", ""},
+        {"More than 100000 eyepieces: the first are shown",
+         "Mehr als 100000 Okulare: Die ersten sind zu sehen"},
+        {"More than 16 MiB of eyepieces: the first are shown",
+         "Mehr als 16 MiB Okulare: Die ersten sind zu sehen"},
+        {"eyepiece.dat cannot be read", "eyepiece.dat kann nicht gelesen werden"},
+    };
+    return kTexts[static_cast<std::size_t>(list.end)].In(language);
+}
+
+std::string EyepieceEndLine(const EyepieceList& list, const char* path)
+{
+    switch (list.end) {
+    case EyepieceList::End::kMoreEntries:
+        return "more than 100000 eyepieces";
+    case EyepieceList::End::kMoreBytes:
+        return "more than 16 MiB of eyepieces";
+    case EyepieceList::End::kUnreadable:
+        return std::string("cannot read ") + path;
+    case EyepieceList::End::kComplete:
+        break;
+    }
+    return "";
 }
 
 std::vector<std::size_t> SortEyepieces(const std::vector<Eyepiece>& eyepieces)

@@ -65,6 +65,14 @@ std::string UsualThickness(const std::string& diameter)
     return FormatText("%0.2f", ThicknessForDiameter(TextToDouble(diameter.c_str())));
 }
 
+double LightGathering(double D) { return kPi * (D / 2) * (D / 2) / kEyePupilArea; }
+
+double LimitingMagnitude1(double D) { return 2.5 * std::log10(D * D * 0.7 / 49) + 8.5; }
+
+double LimitingMagnitude2(double D) { return 5 * std::log10(D / 10) + 7.5; }
+
+double ResolutionDawes(double D) { return 116 / D; }
+
 ListRows PrimaryRows(const PrimaryTexts& texts, bool details, int language)
 {
     const double D = TextToDouble(texts.diameter.c_str());
@@ -81,16 +89,17 @@ ListRows PrimaryRows(const PrimaryTexts& texts, bool details, int language)
     // these lists in forums.
     RowMaker rows(language, details);
     rows.Add({"Light Gathering Power", "Lichtsammelvermögen gegenüber dem bloßen menschlichen Auge"_cp1252},
-             FormatText("%0.2fx", kPi * r * r / kEyePupilArea));
+             FormatText("%0.2fx", LightGathering(D)));
     rows.Add({"Limiting Magnitude (2)", "Limiting Magnitude (2)"},
-             FormatText("%0.2f mag", 5 * std::log10(D / 10) + 7.5));
+             FormatText("%0.2f mag", LimitingMagnitude2(D)));
     rows.Add({"Limiting Magnitude (1)", "Limiting Magnitude (1)"},
-             FormatText("%0.2f mag", 2.5 * std::log10(D * D * 0.7 / 49) + 8.5));
+             FormatText("%0.2f mag", LimitingMagnitude1(D)));
     rows.AddDetail({"Resolution (Sparrows)", "Auflösungsvermögen (Sparrows)"_cp1252},
                    FormatText("%0.2f\"", 115 / D));
     rows.AddDetail({"Resolution (Sparrows)", "Auflösungsvermögen (Rayleigh)"_cp1252},
                    FormatText("%0.2f\"", 138 / D));
-    rows.Add({"Resolution (Dawes)", "Auflösungsvermögen (Rayleigh)"_cp1252}, FormatText("%0.2f\"", 116 / D));
+    rows.Add({"Resolution (Dawes)", "Auflösungsvermögen (Rayleigh)"_cp1252},
+             FormatText("%0.2f\"", ResolutionDawes(D)));
     rows.Add({"Minimal Magnification (7mm Pupil)", "Minimale Vergrösserung (7mm Pupille)"_cp1252},
              MagnificationText(D, F, 7));
     rows.Add({"Maximal Magnification (0.5mm Pupil)", "Maximale Vergrösserung (0,5mm Pupille)"_cp1252},

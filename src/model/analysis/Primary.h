@@ -35,6 +35,12 @@ void StorePrimary(COrrevaData& record, const PrimaryTexts& texts);
 /// A sixth of the typed diameter, as the text of the field for the thickness.
 std::string UsualThickness(const std::string& diameter);
 
+/// What a mirror of the diameter D, mm, does.
+double LightGathering(double D);     ///< times the light of the naked eye
+double LimitingMagnitude1(double D); ///< mag
+double LimitingMagnitude2(double D); ///< mag
+double ResolutionDawes(double D);    ///< seconds of arc
+
 /// The performance list, computed from the texts alone.
 ListRows PrimaryRows(const PrimaryTexts& texts, bool details, int language);
 

@@ -5,6 +5,7 @@
 #include "lib/text/Numbers.h"
 #include "model/analysis/IlluminationTable.h"
 #include "model/analysis/SecondaryFormulas.h"
+#include "model/analysis/Values.h"
 #include "model/rows/RowMaker.h"
 #include "model/rows/WantedField.h"
 
@@ -23,6 +24,14 @@ void StoreSecondary(COrrevaData& record, const SecondaryTexts& texts)
 {
     StoreNumber(record, kSecondaryMinorAxis, texts.minor_axis);
     StoreNumber(record, kWantedField, texts.wanted_field);
+}
+
+IlluminationStops StopsOf(const COrrevaData& record, const SecondaryTexts& texts)
+{
+    DesignCopy design(record);
+    IlluminationStops stops = ReadIlluminationStops(design.State().record);
+    stops.m = TextToDouble(texts.minor_axis.c_str());
+    return stops;
 }
 
 namespace {

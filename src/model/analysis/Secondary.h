@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/optics/Illumination.h"
 #include "model/rows/ListColumn.h"
 #include "model/rows/ListRow.h"
 #include "model/rows/NumberField.h"
@@ -25,6 +26,9 @@ struct SecondaryTexts {
 SecondaryTexts ReadSecondary(COrrevaData& record);
 /// Stores the minor axis, then the wanted field.
 void StoreSecondary(COrrevaData& record, const SecondaryTexts& texts);
+
+/// What the light of the record's telescope passes with the typed minor axis; the record stays as it is.
+IlluminationStops StopsOf(const COrrevaData& record, const SecondaryTexts& texts);
 
 struct SecondaryResult {
     ListRows rows;

@@ -1,8 +1,8 @@
 #include "model/analysis/Summary.h"
 
 #include "lib/text/CodePage.h"
+#include "lib/text/FiniteText.h"
 #include "lib/text/Language.h"
-#include "lib/text/LibString.h"
 #include "lib/text/Numbers.h"
 #include "model/record/Formulas.h"
 #include "model/record/OrrevaData.h"
@@ -14,12 +14,6 @@ constexpr const char* kMmAndInches = "%0.1f mm (%0.2f\")";
 constexpr const char* kMm = "%0.1f mm";
 constexpr const char* kMmAndAngle = "%0.2f mm (%0.2f°)"_cp1252;
 constexpr const char* kMmAndAngleApart = "%0.2f mm  (%0.2f°)"_cp1252;
-
-double FocalRatio(COrrevaData& record)
-{
-    const double f = record.GetFocalLength();
-    return f / record.GetMirrorDiameter();
-}
 
 /// A heading, or a number of the record: by `format`, which takes the value and then the value in inches.
 struct Line {
@@ -71,19 +65,22 @@ SummaryRow MakeRow(const Line& line, COrrevaData& record, int language)
         return {SummaryRow::kHeading, line.label.In(language), "", false};
     }
     const double value = line.value(record);
-    LibString text;
-    text.Format(line.format, value, value / kInch);
-    return {SummaryRow::kValue, line.label.In(language), text.GetText(), false};
+    return {SummaryRow::kValue, line.label.In(language), FiniteText(line.format, {value, value / kInch}),
+            false};
 }
 
 SummaryRow LimitRow(const char* label, const char* format, const FullField& limit, bool warning)
 {
-    LibString text;
-    text.Format(format, limit.diameter, limit.angle);
-    return {SummaryRow::kValue, label, text.GetText(), warning};
+    return {SummaryRow::kValue, label, FiniteText(format, {limit.diameter, limit.angle}), warning};
 }
 
 } // namespace
+
+double FocalRatio(COrrevaData& record)
+{
+    const double f = record.GetFocalLength();
+    return f / record.GetMirrorDiameter();
+}
 
 double TubeFieldLimit(COrrevaData& record)
 {

@@ -1,15 +1,9 @@
 #pragma once
 
+#include "model/analysis/Recalculation.h"
+
 #include <string>
 #include <vector>
-
-class COrrevaData;
-
-/// The 100% illuminated field as the document keeps it.
-struct FullField {
-    double diameter = 0.0; ///< mm in the focal plane
-    double angle = 0.0;    ///< full angle in degrees
-};
 
 /// One row of the design summary; texts are bytes of code page 1252.
 struct SummaryRow {
@@ -25,8 +19,11 @@ struct SummaryRow {
     bool operator==(const SummaryRow&) const = default;
 };
 
-/// The rows of the summary from the top down.
+/// The rows of the summary from the top down. A number that is not finite is an en dash: a new telescope has
+/// no angle of its field until the next recalculation.
 std::vector<SummaryRow> SummaryRows(COrrevaData& record, const FullField& field, int language);
+
+double FocalRatio(COrrevaData& record);
 
 /// The limits of the fully lit field, mm. The first divides by less than the run from the primary to the
 /// tube's front end: half the tube's width counts twice. Kept: builders compare by it.

@@ -14,5 +14,8 @@ struct CentreMarks {
 /// m: minor axis of the secondary, w: wanted field, F: focal length, z: height of the focal plane (all mm).
 CentreMarks FindCentreMarks(double m, double w, double F, double z);
 
+/// For the record as it is now.
+CentreMarks FindCentreMarks(COrrevaData& telescope);
+
 /// The two lines of the message, parted by "\n"; in German in both languages.
 std::string CentreMarksMessage(COrrevaData& telescope);

@@ -5,6 +5,7 @@
 #include "lib/text/CodePage.h"
 #include "lib/text/Language.h"
 #include "lib/text/Log.h"
+#include "lib/text/LogSink.h"
 #include "lib/text/Numbers.h"
 
 #include <cstring>
@@ -14,6 +15,17 @@ namespace {
 constexpr const char* kDefaultPath = "noname.orreva.xml";
 constexpr Bilingual kSavePrompt{"Save %s?",
                                 "Die Daten wurden verändert.\nSoll die Datei %s gesichert werden?"_cp1252};
+
+/// A line of the log, made only where somebody takes it: a sweep reads millions of defaults.
+template <class... Values>
+void LogFormatted(const char* format, Values... values)
+{
+    if (HasLogSink()) {
+        LibString line;
+        line.Format(format, values...);
+        LogText(line);
+    }
+}
 
 /// A wait cursor for as long as it lives.
 class Wait {
@@ -50,8 +62,10 @@ void COrrevaData::Reset()
     if (modified != 0) {
         LibString prompt;
         prompt.Format(kSavePrompt.In(g_nLanguage), Cp1252FromUtf8(file_path.GetText()).c_str());
-        if (m_host != nullptr && m_host->AskYesNo(prompt)) {
-            Save();
+        const bool wanted = m_host != nullptr && m_host->AskYesNo(prompt);
+        const bool saved = wanted && Save() == 0;
+        if (!saved && m_files != nullptr) {
+            m_files->NotSaved(*this, wanted);
         }
     }
     modified = 0;
@@ -79,6 +93,13 @@ void COrrevaData::ResetCaches()
 }
 
 bool COrrevaData::HasFile() const { return *file_path.GetText() != 0; }
+
+void COrrevaData::TellStored(void (COrrevaData::*set)(double))
+{
+    if (m_host != nullptr) {
+        m_host->OnStored(set);
+    }
+}
 
 void COrrevaData::CopyTo(COrrevaData& dest) const
 {
@@ -128,13 +149,20 @@ int COrrevaData::Load(const char* path)
         Clear();
         return 1;
     }
+    LoadBy(path, [this](COrrevaData& record) {
+        if (m_files != nullptr) {
+            m_files->Read(record);
+        }
+    });
+    return 0;
+}
+
+void COrrevaData::LoadBy(const char* path, const std::function<void(COrrevaData& record)>& read)
+{
     file_path = path; // which may have been this very text
     SetTitleOfDocument();
-    if (m_files != nullptr) {
-        m_files->Read(*this);
-    }
+    read(*this);
     modified = 0;
-    return 0;
 }
 
 void COrrevaData::SetTitleOfDocument()
@@ -169,9 +197,7 @@ std::int32_t COrrevaData::GetTubeType()
 
 void COrrevaData::SetTubeType(std::int32_t value)
 {
-    LibString line;
-    line.Format("COrrevaData::SetTubeType: %d", value);
-    LogText(line);
+    LogFormatted("COrrevaData::SetTubeType: %d", value);
     tube_type = value;
 }
 
@@ -258,9 +284,7 @@ double COrrevaData::GetFocuserDiameter()
         const double w = GetWanted100PercentFow();
         const double raw = z * D / f + w / 2;
         focuser_diameter = StandardFocuserDiameter(raw);
-        LibString line;
-        line.Format("GetFocuserDiameter: %f, %f", raw, focuser_diameter);
-        LogText(line);
+        LogFormatted("GetFocuserDiameter: %f, %f", raw, focuser_diameter);
     }
     return focuser_diameter;
 }
@@ -356,9 +380,7 @@ double COrrevaData::DefaultInsideDiameterHat()
     const double total = GetFocuserTotalHeight();
     const double front = GetDistanceFront();
     const double mirror_to_front = f - (D + kSmallestMargin) / 2 - thickness - total + front;
-    LibString line;
-    line.Format("Mirror to Front: %f", mirror_to_front);
-    LogText(line);
+    LogFormatted("Mirror to Front: %f", mirror_to_front);
 
     const double margin = std::tan(kRadiansOfDegree * angle) * mirror_to_front;
     return D + (margin < kSmallestMargin ? kSmallestMargin : margin);

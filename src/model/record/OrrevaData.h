@@ -5,6 +5,7 @@
 #include "model/record/TelescopeFields.h"
 
 #include <cstdint>
+#include <functional>
 
 class COrrevaData;
 
@@ -19,6 +20,8 @@ public:
     virtual void SetDocumentTitle(const char* path) = 0;
     virtual void BeginWait() = 0;
     virtual void EndWait() = 0;
+    /// A sheet stored a number through the setter `set`, or put it back to its default.
+    virtual void OnStored(void (COrrevaData::*)(double) /*set*/) {}
 };
 
 /// How a record's design file is written and read, by the path that the record has.
@@ -29,6 +32,9 @@ public:
     virtual bool Write(const COrrevaData& record) = 0;
     /// Fills the record's fields from its file.
     virtual void Read(COrrevaData& record) = 0;
+    /// A modified record is about to be reset and its changes are in no file: the user wanted no save, or the
+    /// save failed. The last chance to keep a copy.
+    virtual void NotSaved(const COrrevaData&, bool /*failed*/) {}
 };
 
 /// The telescope: at once the builder's input and a network of defaults.
@@ -61,6 +67,8 @@ public:
     bool HasFile() const;
     void SetModified(std::uint8_t value) { modified = value; }
     std::uint8_t IsModified() const { return modified; }
+    /// To be called by who stores what a user typed: see RecordHost::OnStored.
+    void TellStored(void (COrrevaData::*set)(double));
     /// Resets `dest` (with its prompt and its default path), then copies every field that a file holds.
     void CopyTo(COrrevaData& dest) const;
 
@@ -73,6 +81,9 @@ public:
     /// Reads a design file into a record that the caller has reset. 0 done, 1 missing file: the record is
     /// cleared.
     int Load(const char* path);
+    /// The part of Load behind the test whether the file exists, for bytes that others have read already:
+    /// takes `path` as the record's path and title, and `read` fills the fields.
+    void LoadBy(const char* path, const std::function<void(COrrevaData& record)>& read);
 
     // Texts and types ------------------------------------------------------------------------------------
 

@@ -11,10 +11,12 @@ std::string ShowNumber(COrrevaData& record, const NumberField& field)
 std::string ResetNumber(COrrevaData& record, const NumberField& field)
 {
     (record.*field.set)(HUGE_VAL);
+    record.TellStored(field.set);
     return ShowNumber(record, field);
 }
 
 void StoreNumber(COrrevaData& record, const NumberField& field, const std::string& text)
 {
     (record.*field.set)(TextToDouble(text.c_str()));
+    record.TellStored(field.set);
 }

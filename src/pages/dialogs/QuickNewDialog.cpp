@@ -1,6 +1,9 @@
 #include "pages/dialogs/QuickNewDialog.h"
 
+#include "lib/text/Language.h"
+#include "model/analysis/QuickNewReading.h"
 #include "pages/sheet/Fields.h"
+#include "painting/QtText.h"
 
 #include "ui_QuickNewDialog.h"
 
@@ -12,9 +15,19 @@ CQuickNewDialog::CQuickNewDialog(const QuickNewTexts& texts, QWidget* parent)
     ShowText(m_ui->aperture, texts.aperture);
     ShowText(m_ui->focalLength, texts.focal_length);
     m_ui->title->selectAll();
+    for (const QLineEdit* const field : {m_ui->aperture, m_ui->focalLength}) {
+        connect(field, &QLineEdit::textChanged, this, &CQuickNewDialog::ShowUnderstood);
+    }
+    ShowUnderstood();
 }
 
 CQuickNewDialog::~CQuickNewDialog() = default;
+
+void CQuickNewDialog::ShowUnderstood()
+{
+    const QuickNewTexts texts = Texts();
+    m_ui->understood->setText(ToQString(QuickNewReading(texts.aperture, texts.focal_length, g_nLanguage)));
+}
 
 QuickNewTexts CQuickNewDialog::Texts() const
 {

@@ -10,7 +10,8 @@ namespace Ui {
 class QuickNewDialog;
 }
 
-/// The quick New dialog: title, aperture and focal length. It checks nothing.
+/// The quick New dialog: title, aperture and focal length. It checks nothing, but tells how
+/// it reads the two numbers.
 class CQuickNewDialog : public QDialog {
     Q_OBJECT
 
@@ -21,5 +22,7 @@ public:
     QuickNewTexts Texts() const;
 
 private:
+    void ShowUnderstood();
+
     std::unique_ptr<Ui::QuickNewDialog> m_ui;
 };

@@ -20,6 +20,9 @@ public:
     CPropertyPageCouder1(COrrevaDoc& document, QWidget* parent);
     ~CPropertyPageCouder1() override;
 
+    /// The texts as they stand, and the radio groups.
+    ZoneFields TakeFields() const;
+
 private:
     struct Mirror {
         double D; ///< mm
@@ -28,8 +31,6 @@ private:
 
     Mirror ReadMirror();
     void ShowFields(const ZoneFields& fields);
-    /// The texts as they stand, and the radio groups.
-    ZoneFields TakeFields() const;
     void ConnectFields();
     void ConnectResets();
     void ConnectButtons();

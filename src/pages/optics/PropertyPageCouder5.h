@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/sheet/PropertyPage.h"
+#include "pages/optics/FoucaultPage.h"
 
 #include <memory>
 
@@ -8,17 +8,25 @@ namespace Ui {
 class PropertyPageCouder5;
 }
 
-/// "Setup": a frame for the choice of mask and series of measurements. Only the way to the masks is finished.
-class CPropertyPageCouder5 : public CPropertyPage {
+/// "Setup": the mask and the series of readings in use, and the ways to the pages that make new ones.
+class CPropertyPageCouder5 : public CFoucaultPage {
     Q_OBJECT
 
 public:
-    explicit CPropertyPageCouder5(QWidget* parent);
+    CPropertyPageCouder5(CFoucaultSession& session, QWidget* parent);
     ~CPropertyPageCouder5() override;
 
+    /// Another page may have taken over another mask.
+    void OnSetActive() override { ShowSession(); }
+
 signals:
-    /// The user asks for the page of the masks.
+    /// The user asks for the page of the masks, of the series, or of the readings.
     void MasksAsked();
+    void SeriesAsked();
+    void ReadingsAsked();
+
+protected:
+    void ShowSession() override;
 
 private:
     std::unique_ptr<Ui::PropertyPageCouder5> m_ui;

@@ -281,6 +281,7 @@ void CPropertySheet::Apply()
         }
     }
     m_apply->setEnabled(false);
+    emit Applied();
 }
 
 void CPropertySheet::accept()

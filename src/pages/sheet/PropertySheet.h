@@ -44,6 +44,10 @@ public:
 
     void accept() override;
 
+signals:
+    /// Every visited page was applied, by Apply or by OK.
+    void Applied();
+
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -2,6 +2,7 @@
 
 #include "document/OrrevaDoc.h"
 #include "lib/text/Language.h"
+#include "lib/text/Numbers.h"
 #include "painting/QtText.h"
 
 #include "ui_MyPropertyPage04.h"
@@ -19,6 +20,11 @@ CMyPropertyPage04::CMyPropertyPage04(COrrevaDoc& doc, QWidget* parent)
     BindData({m_ui->minorAxis});
     BindReset(m_ui->resetMinorAxis, m_ui->minorAxis, kSecondaryMinorAxis);
     connect(m_ui->details, &QCheckBox::toggled, this, &CMyPropertyPage04::Refresh);
+    connect(m_ui->curve, &QPushButton::clicked, this, [this] {
+        const SecondaryTexts typed = Texts();
+        m_document.Host().ShowIllumination(StopsOf(Record(), typed),
+                                           TextToDouble(typed.wanted_field.c_str()));
+    });
     Refresh();
 }
 

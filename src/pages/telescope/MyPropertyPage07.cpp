@@ -9,6 +9,10 @@
 #include <QAbstractListModel>
 #include <QListView>
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 namespace {
 
 /// The names as the drop-down shows them; made when they are looked at, for a list of any length.
@@ -39,8 +43,8 @@ private:
 } // namespace
 
 CMyPropertyPage07::CMyPropertyPage07(COrrevaDoc& doc, QWidget* parent)
-    : CTelescopePage(doc, kWizardNext, parent), m_eyepieces(LoadEyepieces("eyepiece.dat")),
-      m_order(SortEyepieces(m_eyepieces)), m_ui(std::make_unique<Ui::MyPropertyPage07>())
+    : CTelescopePage(doc, kWizardNext, parent), m_list(LoadEyepieces("eyepiece.dat")),
+      m_order(SortEyepieces(m_list.entries)), m_ui(std::make_unique<Ui::MyPropertyPage07>())
 {
     m_ui->setupUi(this);
     BindHelpStrip();
@@ -49,18 +53,27 @@ CMyPropertyPage07::CMyPropertyPage07(COrrevaDoc& doc, QWidget* parent)
     if (auto* const list = qobject_cast<QListView*>(m_ui->eyepiece->view())) {
         list->setUniformItemSizes(true);
     }
-    m_ui->eyepiece->setModel(new EyepieceNames(m_eyepieces, m_order, this));
+    m_ui->eyepiece->setModel(new EyepieceNames(m_list.entries, m_order, this));
     m_ui->eyepiece->setCurrentIndex(-1);
     m_ui->results->SetColumns(kEyepieceColumns, g_nLanguage);
+    m_ui->results->SetRows(ListNote());
     connect(m_ui->eyepiece, &QComboBox::activated, this, &CMyPropertyPage07::ShowEyepiece);
 }
 
 CMyPropertyPage07::~CMyPropertyPage07() = default;
 
+ListRows CMyPropertyPage07::ListNote() const
+{
+    const std::string text = EyepieceEndText(m_list, g_nLanguage);
+    return text.empty() ? ListRows{} : ListRows{ListRow{text}};
+}
+
 void CMyPropertyPage07::ShowEyepiece(int index)
 {
     if (index >= 0) {
-        const Eyepiece& eyepiece = m_eyepieces[m_order[static_cast<std::size_t>(index)]];
-        m_ui->results->SetRows(EyepieceRows(Record(), eyepiece, g_nLanguage));
+        const Eyepiece& eyepiece = m_list.entries[m_order[static_cast<std::size_t>(index)]];
+        ListRows rows = ListNote(); // the last row stands on top
+        std::ranges::move(EyepieceRows(Record(), eyepiece, g_nLanguage), std::back_inserter(rows));
+        m_ui->results->SetRows(std::move(rows));
     }
 }

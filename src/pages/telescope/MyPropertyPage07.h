@@ -20,10 +20,12 @@ public:
     ~CMyPropertyPage07() override;
 
 private:
+    /// The row that says that the list is not complete, if it is not.
+    ListRows ListNote() const;
     /// `index` counts the rows of the drop-down.
     void ShowEyepiece(int index);
 
-    const std::vector<Eyepiece> m_eyepieces; ///< in the order of the file
-    const std::vector<std::size_t> m_order;  ///< the row of the drop-down -> the eyepiece
+    const EyepieceList m_list;              ///< in the order of the file
+    const std::vector<std::size_t> m_order; ///< the row of the drop-down -> the eyepiece
     std::unique_ptr<Ui::MyPropertyPage07> m_ui;
 };

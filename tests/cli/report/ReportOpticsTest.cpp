@@ -102,4 +102,27 @@ TEST_F(ReportTests, FieldFromTheCentreOut)
     EXPECT_EQ("0.006\tnan", FieldReport(context).front());
 }
 
+TEST_F(ReportTests, IlluminationFromTheCentreToTheEdgeOfTheDrawtube)
+{
+    telescope.SetSecondaryDiameter(50);
+    telescope.SetFocuserDiameter(40);
+    const ReportLines lines = IlluminationReport(context);
+    ASSERT_EQ(41u, lines.size());
+    EXPECT_EQ("0.00 mm\t0.000\xB0\t100.00 %\t0.000 mag\t93.75 %", lines[0]); // 1 - 1 / 16
+    EXPECT_EQ(0u, lines[1].find("0.50 mm\t0.024\xB0\t100.00 %\t0.000 mag\t93.75 %"));
+    EXPECT_EQ(0u, lines[40].find("20.00 mm\t0.955\xB0\t"));
+    telescope.SetSecondaryDiameter(200);
+    EXPECT_EQ(ReportLines{"no illumination"}, IlluminationReport(context));
+}
+
+TEST_F(ReportTests, IlluminationIsPrintedOnlyWhenNamed)
+{
+    const ReportPage* const page = FindReportPage("illumination");
+    ASSERT_NE(nullptr, page);
+    EXPECT_TRUE(page->only_when_named);
+    for (const ReportPage& other : ReportPages()) {
+        EXPECT_EQ(&other == page, other.only_when_named) << other.name;
+    }
+}
+
 } // namespace

@@ -152,7 +152,23 @@ TEST_F(Report, WithoutAnEyepieceListThePageIsEmpty)
 {
     ReportContext context{m_record};
     context.eyepiece_path = "/nowhere/eyepiece.dat";
-    EXPECT_TRUE(EyepiecesReport(context).empty());
+    EyepiecesReport(context, [](const std::string&) {
+        ADD_FAILURE() << "a line";
+        return true;
+    });
+}
+
+TEST_F(Report, EyepiecesEndWhenTheSinkIsFull)
+{
+    ReportContext context{m_record};
+    context.eyepiece_path = ORREVA_SOURCE_DIR "/share/eyepiece.dat";
+    ReportLines lines;
+    EyepiecesReport(context, [&lines](const std::string& line) {
+        lines.push_back(line);
+        return lines.size() < 8;
+    });
+    EXPECT_EQ(8u, lines.size());
+    EXPECT_EQ("Kellner 20", lines[6]);
 }
 
 TEST_F(Report, BalancePrintsNineRowsAndTwoSentences)

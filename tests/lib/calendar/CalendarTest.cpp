@@ -164,6 +164,21 @@ TEST(Calendar, AddsDays)
     }
 }
 
+TEST(Calendar, WalksBackFromMonthsBeyondTheYearsEndIntoDecember)
+{
+    for (const CalendarVersion version :
+         {CalendarVersion::Old, CalendarVersion::Reform, CalendarVersion::Modern}) {
+        for (const int nMonth : {13, 14, 15, 40, 65535}) {
+            // Such a month has no days: its first is the first of the next year.
+            const CalDay start(1, static_cast<std::uint16_t>(nMonth), 2003);
+            EXPECT_EQ(CalDay(31, 12, 2003), AddDays(start, -1, version)) << nMonth;
+            EXPECT_EQ(CalDay(30, 12, 2003), AddDays(start, -2, version)) << nMonth;
+            EXPECT_EQ(CalDay(30, 11, 2003), AddDays(start, -32, version)) << nMonth;
+            EXPECT_EQ(CalDay(31, 12, 2002), AddDays(start, -366, version)) << nMonth;
+        }
+    }
+}
+
 TEST(Calendar, StepsBackIntoOtherReformMonthsByTheirLength)
 {
     {

@@ -122,9 +122,9 @@ TEST_F(ConfigFile, AMissingFileAndADirectoryCannotBeOpened)
 
 TEST_F(ConfigFile, OnlyARegularFileIsOpened)
 {
+    // A reader that waits for the other end of the pipe would hang.
     ASSERT_EQ(0, mkfifo((folder / "pipe").c_str(), 0600));
     fs::create_symlink((folder / "pipe"), (folder / "link"));
-    alarm(20); // a reader that waits for the other end of a pipe ends the test
     char dest[10] = "before";
     for (const std::string& path : {folder / "pipe", folder / "link", std::string("/dev/zero")}) {
         CConfigFile special(path.c_str());
@@ -133,7 +133,6 @@ TEST_F(ConfigFile, OnlyARegularFileIsOpened)
         EXPECT_EQ(50, special.GetSections(dest, sizeof dest)) << path;
         EXPECT_EQ(1, special.SetInt("s", "a", 1)) << path;
     }
-    alarm(0);
     Is("[s]\na=1\n");
     fs::create_symlink((folder / kIni), (folder / "good"));
     EXPECT_EQ(0, CConfigFile((folder / "good").c_str()).GetRaw("s", "a", dest, sizeof dest));

@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -53,6 +55,33 @@ TEST(ReadFileBytes, GivesNothingForWhatIsNoReadableFile)
     EXPECT_EQ(std::nullopt, ReadFileBytes(folder.Path().c_str()));
     EXPECT_EQ(std::nullopt, ReadFileBytes((folder / "missing").c_str()));
     EXPECT_EQ(std::nullopt, ReadFileBytes(""));
+}
+
+TEST(ReadPieces, FailsOnceAReadFails)
+{
+    // Six bytes in pieces of two, and then no more.
+    int given = 0;
+    const ReadPiece read = [&given](char* target, std::size_t size) -> std::ptrdiff_t {
+        if (given == 6) {
+            return -1;
+        }
+        std::ptrdiff_t count = 0;
+        while (count < 2 && static_cast<std::size_t>(count) < size) {
+            target[count++] = static_cast<char>('a' + given++);
+        }
+        return count;
+    };
+    for (const std::size_t limit : {0u, 1u, 4u, 6u}) {
+        given = 0;
+        std::string bytes;
+        EXPECT_TRUE(ReadPieces(read, limit, bytes));
+        EXPECT_EQ(std::string("abcdef").substr(0, limit), bytes);
+    }
+    for (const std::size_t limit : {std::size_t{7}, kMostFileBytes}) {
+        given = 0;
+        std::string bytes;
+        EXPECT_FALSE(ReadPieces(read, limit, bytes)) << "half a file is none";
+    }
 }
 
 TEST(ReplaceFile, WritesANewFileAndReplacesAnOldOneWhole)

@@ -186,4 +186,18 @@ TEST(Numbers, TextToDoubleReadsNoTextOf1001Characters)
     EXPECT_EQ(0.0, TextToDouble((blanks + "     1.#INF").c_str()));
 }
 
+TEST(IsNumberText, TakesWhatTextToDoubleReadsWhole)
+{
+    for (const char* const text : {"1", "-1.5", "+.5", "250,5", " \t3 ", "1e3", "5.", "1E-2"}) {
+        EXPECT_TRUE(IsNumberText(text)) << text;
+    }
+    for (const char* const text :
+         {"", " ", "x", "1x", "1.2.3", "1,2,3", "1.#INF", "nan", "inf", "0x10", "1e", "-", "."}) {
+        EXPECT_FALSE(IsNumberText(text)) << text;
+    }
+    EXPECT_FALSE(IsNumberText(nullptr));
+    EXPECT_TRUE(IsNumberText(std::string(1000, '1').c_str()));
+    EXPECT_FALSE(IsNumberText(std::string(1001, '1').c_str()));
+}
+
 } // namespace

@@ -3,6 +3,7 @@
 #include "lib/text/CodePage.h"
 #include "lib/text/Language.h"
 #include "support/ListText.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -101,13 +102,52 @@ TEST(Eyepieces, EqualNamesKeepTheirOrderAndLeadToTheirOwnRow)
 
 TEST(Eyepieces, AMissingFileIsNoError)
 {
-    EXPECT_TRUE(LoadEyepieces("/nowhere/at/all/eyepiece.dat").empty());
-    EXPECT_TRUE(LoadEyepieces(ORREVA_SOURCE_DIR).empty()) << "nor a directory";
+    const EyepieceList missing = LoadEyepieces("/nowhere/at/all/eyepiece.dat");
+    EXPECT_TRUE(missing.entries.empty());
+    EXPECT_EQ(EyepieceList::End::kComplete, missing.end);
+    EXPECT_EQ("", EyepieceEndText(missing, kEnglish));
+    const EyepieceList folder = LoadEyepieces(ORREVA_SOURCE_DIR);
+    EXPECT_TRUE(folder.entries.empty()) << "nor a directory";
+    EXPECT_EQ("eyepiece.dat cannot be read", EyepieceEndText(folder, kEnglish));
+    EXPECT_EQ("cannot read a/b", EyepieceEndLine(folder, "a/b"));
+}
+
+TEST(Eyepieces, AListEndsAtItsHundredThousandthEntry)
+{
+    const TemporaryFolder folder;
+    std::string text = "# not one\n";
+    for (int i = 0; i < 100000; ++i) {
+        text += std::to_string(i) + ",1,2\n\n";
+    }
+    const EyepieceList most = LoadEyepieces(folder.Write("a", text).c_str());
+    EXPECT_EQ(100000u, most.entries.size());
+    EXPECT_EQ(EyepieceList::End::kComplete, most.end);
+    const EyepieceList more = LoadEyepieces(folder.Write("a", text + "one more").c_str());
+    EXPECT_EQ(100000u, more.entries.size());
+    EXPECT_EQ("99999", more.entries.back().name);
+    EXPECT_EQ("more than 100000 eyepieces", EyepieceEndLine(more, "a"));
+    EXPECT_EQ("Mehr als 100000 Okulare: Die ersten sind zu sehen", EyepieceEndText(more, kGerman));
+}
+
+TEST(Eyepieces, AListEndsBehind16Mebibytes)
+{
+    const TemporaryFolder folder;
+    std::string text = "First,1,2\n" + std::string((16 << 20) - 30, '#') + "\n";
+    text += "Last,3,4\n";
+    text.resize(16 << 20, '\n');
+    const EyepieceList most = LoadEyepieces(folder.Write("a", text).c_str());
+    EXPECT_EQ(2u, most.entries.size());
+    EXPECT_EQ(EyepieceList::End::kComplete, most.end);
+    text.resize((16 << 20) - 4); // now a last line goes over the end
+    const EyepieceList more = LoadEyepieces(folder.Write("a", text + "Over the end,1,2\n").c_str());
+    ASSERT_EQ(2u, more.entries.size());
+    EXPECT_EQ("Last", more.entries.back().name);
+    EXPECT_EQ("more than 16 MiB of eyepieces", EyepieceEndLine(more, "a"));
 }
 
 TEST(Eyepieces, TheExampleListIsReadWhole)
 {
-    const std::vector<Eyepiece> eyepieces = LoadEyepieces(ORREVA_SOURCE_DIR "/share/eyepiece.dat");
+    const std::vector<Eyepiece> eyepieces = LoadEyepieces(ORREVA_SOURCE_DIR "/share/eyepiece.dat").entries;
     EXPECT_EQ((std::vector<std::string>{"Erfle 32", "Kellner 20", "Ortho 12", "Ortho 6", "Plössl 10",
                                         "Plössl 25", "Plössl 40", "Plössl 7.5", "Wide Angle 9"}),
               SortedNames(eyepieces));

@@ -145,4 +145,14 @@ TEST_F(Summary, PrintsAnyNumber)
     }
 }
 
+TEST_F(Summary, SetsADashForANumberThatIsNotFinite)
+{
+    // As right after New: the angle has no number yet. Without a mirror the focal ratio has none either.
+    EXPECT_EQ("12.57 mm (\x96\xB0)", SummaryRows(record, {12.567, -NAN}, kEnglish)[23].value);
+    record.SetMirrorDiameter(0);
+    EXPECT_EQ("f/\x96", SummaryRows(record, {20, 1.5}, kEnglish)[4].value);
+    record.SetFocalLength(-HUGE_VAL);
+    EXPECT_EQ("\x96 mm (\x96\")", SummaryRows(record, {20, 1.5}, kEnglish)[3].value);
+}
+
 } // namespace

@@ -216,6 +216,16 @@ TEST(OrrevaData, NewTelescopeNeverWeighsInfinity)
     EXPECT_DOUBLE_EQ(2.4, data.density);
 }
 
+TEST(OrrevaData, CellThatStandsJustAtTheTubesEndStaysThere)
+{
+    // 14 + 20 / 2 = 1.2 * 20, in binary fractions of whole numbers as on paper.
+    COrrevaData data;
+    data.SetMirrorThickness(20);
+    data.SetDistanceBack(14);
+    ASSERT_EQ(0, data.GetBalanceMirror() - 1.2 * 20);
+    EXPECT_EQ(0, data.GetBalanceCell()) << "half its thickness only where it would stand behind the end";
+}
+
 TEST(OrrevaData, CellOfAThickMirrorStandsAtHalfItsThickness)
 {
     COrrevaData data;

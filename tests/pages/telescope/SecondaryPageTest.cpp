@@ -1,4 +1,7 @@
 #include "pages/sheet/SheetFixture.h"
+#include "windows/IlluminationWindow.h"
+
+#include <QTableWidget>
 
 namespace {
 
@@ -49,6 +52,28 @@ TEST_F(SecondaryPage, DetailsBringTheOtherAuthorsAndTheIllumination)
         EXPECT_EQ("Illumination at 25.0 mm FOV (1.19°) | 97.2% (-0.0 mag)", rows[29]);
         EXPECT_EQ("Illumination at 47.5 mm FOV (2.27°) | 62.7% (-0.5 mag)", rows[38]);
     });
+}
+
+TEST_F(SecondaryPage, TheCurveIsThatOfTheTypedValues)
+{
+    MakeMeasuredTelescope();
+    OnPage(kSecondary, "cancel", [](CPropertyPage& page) {
+        FindControl<QLineEdit>(&page, 1018)->setText("60.5");
+        FindControl<QPushButton>(&page, 33042)->click();
+        auto* const window = page.window()->findChild<CIlluminationWindow*>();
+        ASSERT_NE(nullptr, window);
+        EXPECT_TRUE(window->isVisible());
+        auto* const axes = window->findChild<QTableWidget*>();
+        const auto isListed = [axes](const char* axis) {
+            return !axes->findItems(axis, Qt::MatchExactly).isEmpty();
+        };
+        EXPECT_TRUE(isListed("60.50 mm"));
+        FindControl<QLineEdit>(&page, 1018)->setText("61.5");
+        FindControl<QPushButton>(&page, 33042)->click();
+        EXPECT_TRUE(isListed("61.50 mm"));
+        EXPECT_EQ(1, page.window()->findChildren<CIlluminationWindow*>().size());
+    });
+    EXPECT_EQ(50, app->Document().main_record.GetSecondaryDiameter());
 }
 
 TEST_F(SecondaryPageGerman, ListsInGerman)

@@ -332,6 +332,30 @@ TEST_F(TubeSheet, ADesignButtonExchangesTheSecondPage)
     });
 }
 
+TEST_F(TubeSheet, TypingOnTheGeneralPageKeepsTheDesignThatIsChosen)
+{
+    Main().SetTubeType(0);
+    Document().show_box_and_cage = 1;
+    InTubeSheet([&](CPropertySheetTube& sheet) {
+        const QWidget& page = PageOf(sheet, 0);
+        EXPECT_TRUE(FindControl<QRadioButton>(&page, 1067)->isChecked());
+        for (const int field : {1012, 1014, 1048, 1049}) {
+            Type(page, field, "87.5");
+            EXPECT_EQ(0, Scratch().GetTubeType()) << field;
+        }
+        EXPECT_TRUE(FindControl<QRadioButton>(&page, 1067)->isChecked());
+        EXPECT_EQ("Tube", TabTitle(sheet, 1));
+        EXPECT_EQ(1, Document().show_box_and_cage) << "only a click takes box and cage away";
+        // Once the truss tube is clicked and the tube again, and once a truss is typed on.
+        Click(page, 1068);
+        Type(page, 1014, "88");
+        EXPECT_EQ(1, Scratch().GetTubeType());
+        Click(page, 1067);
+        Type(page, 1014, "89");
+        EXPECT_EQ(0, Scratch().GetTubeType());
+    });
+}
+
 TEST_F(TubeSheet, ASecondClickOnTrussTubeKeepsTheTrussesThatWereChosen)
 {
     InTubeSheet([&](CPropertySheetTube& sheet) {

@@ -1,0 +1,132 @@
+#include "windows/VariationWindow.h"
+
+#include "support/SampleScopes.h"
+#include "support/TemporaryFolder.h"
+#include "windows/ChartView.h"
+#include "windows/VariationRun.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+#include <cmath>
+
+namespace {
+
+class VariationWindow : public testing::Test {
+protected:
+    VariationWindow()
+    {
+        MakeRoundScope(record);
+        window.show();
+        window.ShowPresent(record);
+    }
+
+    QPushButton* Button(const QString& text) const
+    {
+        for (QPushButton* const button : window.findChildren<QPushButton*>()) {
+            if (button->text() == text) {
+                return button;
+            }
+        }
+        return nullptr;
+    }
+    /// Until the curves are drawn.
+    bool Wait() const
+    {
+        return QTest::qWaitFor([this] { return !run->IsRunning(); });
+    }
+    QLineEdit* Edit(int i) const { return window.findChildren<QLineEdit*>().at(i); }
+
+    TemporaryFolder folder;
+    COrrevaData record;
+    CVariationWindow window{nullptr};
+    CVariationRun* run = window.findChild<CVariationRun*>();
+    QLabel* told = window.findChild<QLabel*>("told");
+};
+
+TEST_F(VariationWindow, ProposesHalfToTwiceThePresentNumber)
+{
+    EXPECT_EQ("30", Edit(0)->text());
+    EXPECT_EQ("120", Edit(1)->text());
+    window.findChildren<QComboBox*>().at(0)->setCurrentText("Focal length");
+    EXPECT_EQ("500", Edit(0)->text());
+    EXPECT_EQ("2000", Edit(1)->text());
+}
+
+TEST_F(VariationWindow, AClickTellsTheValuesAndWantsATrial)
+{
+    ASSERT_TRUE(Wait());
+    QSignalSpy wanted(&window, &CVariationWindow::TrialWanted);
+    auto* const chart = window.findChild<CChartView*>();
+    emit chart->Clicked(80.1); // every 0.45 mm from 30 on: 79.95 or 80.4
+    ASSERT_EQ(1, wanted.count());
+    EXPECT_NEAR(79.95, wanted[0][1].toDouble(), 1e-9);
+    // full field (1000 m - 40000) / 800, and m / 200
+    EXPECT_EQ("Minor axis of the secondary: 79.95; Fully lit field: 49.94; Linear obstruction: 39.98",
+              told->text());
+}
+
+TEST_F(VariationWindow, ARangeThatIsNoneIsTold)
+{
+    ASSERT_TRUE(Wait());
+    for (const char* const text : {"", "x", "120", "1e999"}) {
+        Edit(0)->setFocus();
+        Edit(0)->selectAll();
+        *text != 0 ? QTest::keyClicks(Edit(0), text) : QTest::keyClick(Edit(0), Qt::Key_Delete);
+        EXPECT_EQ("The range needs two different numbers.", told->text()) << text;
+        EXPECT_FALSE(run->IsRunning()) << text;
+    }
+}
+
+TEST_F(VariationWindow, ALongRunCanBeStopped)
+{
+    window.findChildren<QComboBox*>().at(1)->setCurrentText("Field with 75 % of the light at its edge");
+    window.findChild<QSpinBox*>()->setValue(100'000);
+    QPushButton* const stop = Button("Stop");
+    ASSERT_TRUE(run->IsRunning());
+    EXPECT_TRUE(stop->isEnabled());
+    stop->click();
+    EXPECT_FALSE(run->IsRunning());
+    EXPECT_FALSE(stop->isEnabled());
+    EXPECT_EQ("Stopped.", told->text());
+}
+
+TEST_F(VariationWindow, TheTableIsWrittenAsCsv)
+{
+    Edit(0)->setText("40");
+    Edit(1)->setText("60");
+    window.findChild<QSpinBox*>()->setValue(3);
+    ASSERT_TRUE(Wait());
+    QTimer::singleShot(0, &window, [] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(nullptr, dialog);
+        dialog->findChild<QLineEdit*>()->setText("curve.csv");
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    Button("Table as CSV...")->click();
+    EXPECT_EQ("secondary/diameter,full_field,linear_obstruction\n40,0,20\n50,12.5,25\n60,25,30\n",
+              folder.Read("curve.csv"));
+}
+
+TEST_F(VariationWindow, AnyDesignHasItsCurves)
+{
+    for (const double odd : kOddNumbers) {
+        MakeRoundScope(record);
+        record.SetFocalLength(odd);
+        record.SetMirrorDiameter(-odd);
+        window.ShowPresent(record);
+        EXPECT_TRUE(Wait());
+        EXPECT_FALSE(window.grab().isNull());
+    }
+}
+
+} // namespace
