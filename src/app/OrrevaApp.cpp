@@ -15,7 +15,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QStatusBar>
 #include <QTimer>
 
 namespace {
@@ -26,8 +25,8 @@ constexpr Bilingual kLanguageNotStored{"The language could not be stored in %s."
 constexpr const char* kLanguageEntry = "Settings/Language";
 constexpr int kNoLanguage = 99;
 
-/// The status bar that tells of a page which no browser shows; the frame's, while it stands.
-QStatusBar* g_helpStatus = nullptr;
+/// Whose status tells of a page that no browser shows, while the frame stands.
+COrrevaDoc* g_helpDocument = nullptr;
 
 /// Every help request of the program, the toolkit's own commands too.
 void OpenHelp(long data, unsigned command)
@@ -38,8 +37,9 @@ void OpenHelp(long data, unsigned command)
     const QUrl page = HelpPage(data, command, BuiltHelpAddresses(g_nLanguage));
     const bool opened = QDesktopServices::openUrl(page);
     const bool missing = page.isLocalFile() && !QFileInfo::exists(page.toLocalFile());
-    if ((!opened || missing) && g_helpStatus != nullptr) {
-        g_helpStatus->showMessage(UnopenedHelpText(page, g_nLanguage));
+    if ((!opened || missing) && g_helpDocument != nullptr) {
+        g_helpDocument->Status().Say(FromQString(UnopenedHelpText(page, g_nLanguage)));
+        g_helpDocument->ShowStatus();
     }
 }
 
@@ -55,7 +55,7 @@ COrrevaApp::COrrevaApp()
 COrrevaApp::~COrrevaApp()
 {
     m_host.Attach(nullptr, nullptr);
-    g_helpStatus = nullptr;
+    g_helpDocument = nullptr;
     m_frame.reset();
     m_document.reset();
     m_threadLocale.Set(kEnglish);
@@ -77,7 +77,7 @@ bool COrrevaApp::InitInstance(const QStringList& arguments)
     QObject::connect(m_frame.get(), &CMainFrame::LanguageChosen, m_frame.get(),
                      [this](int language) { OnLanguage(language); });
     m_host.Attach(m_frame.get(), m_document.get());
-    g_helpStatus = m_frame->statusBar();
+    g_helpDocument = m_document.get();
     if (!ProcessShellCommand(arguments)) {
         return false;
     }

@@ -674,7 +674,7 @@ TEST_F(MainFrame, HelpOpensItsPages)
     // said.
     const bool missing = !QFileInfo::exists(helpPages[3].toLocalFile());
     EXPECT_EQ(missing ? UnopenedHelpText(helpPages[3], kEnglish) : QString(),
-              app->Frame().statusBar()->currentMessage());
+              ToQString(app->Document().Status().Text()));
 }
 
 TEST_F(MainFrame, F1InADialogAsksForHelpOnIt)
