@@ -63,6 +63,7 @@ CMainFrame::CMainFrame(COrrevaDoc& doc, const CThreadLocale& locale)
     BindActions();
     BindAccelerators();
     m_toolWindows = new CToolWindows(*this, *m_ui->statusBar, *m_dialogBar, m_document);
+    connect(this, &CMainFrame::ViewsUpdated, m_toolWindows, &CToolWindows::Follow);
     SetDocumentTitle({});
     m_keeper.setInterval(kKeepEvery);
     connect(&m_keeper, &QTimer::timeout, this, &CMainFrame::KeepLiveCopy);

@@ -1,7 +1,6 @@
 #include "app/ToolWindows.h"
 
 #include "app/FieldOpener.h"
-#include "app/MainFrame.h"
 #include "app/MyDialogBar.h"
 #include "document/EarlierDesigns.h"
 #include "document/FileMasks.h"
@@ -37,14 +36,13 @@ void BringUp(QWidget& window)
 
 } // namespace
 
-CToolWindows::CToolWindows(CMainFrame& frame, QStatusBar& bar, CMyDialogBar& whatIfBar, COrrevaDoc& document)
+CToolWindows::CToolWindows(QWidget& frame, QStatusBar& bar, CMyDialogBar& whatIfBar, COrrevaDoc& document)
     : QObject(&frame), m_frame(frame), m_whatIfBar(whatIfBar), m_document(document),
       m_checkField(new CDesignCheckField(&bar))
 {
     bar.addPermanentWidget(m_checkField);
     m_checkField->ShowNothing(); // the bar has shown it
     connect(m_checkField, &QToolButton::clicked, this, &CToolWindows::OpenDesignCheck);
-    connect(&frame, &CMainFrame::ViewsUpdated, this, &CToolWindows::Follow);
 }
 
 void CToolWindows::OpenDesignCheck()

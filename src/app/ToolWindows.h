@@ -8,12 +8,12 @@ class CDesignCheckField;
 class CCompareWindow;
 class CDesignCheckWindow;
 class CIlluminationWindow;
-class CMainFrame;
 class CMyDialogBar;
 class COrrevaDoc;
 struct TelescopeFields;
 class CVariationWindow;
 class QStatusBar;
+class QWidget;
 
 /// The windows that stand beside the workbench and follow its design, and the field of the design check, the
 /// last one of the status bar. A window is built when it is first asked for.
@@ -21,7 +21,7 @@ class CToolWindows : public QObject {
     Q_OBJECT
 
 public:
-    CToolWindows(CMainFrame& frame, QStatusBar& bar, CMyDialogBar& whatIfBar, COrrevaDoc& document);
+    CToolWindows(QWidget& frame, QStatusBar& bar, CMyDialogBar& whatIfBar, COrrevaDoc& document);
 
     void OpenDesignCheck();
     /// Asks for the file of the other design; nothing for Cancel.
@@ -31,9 +31,10 @@ public:
     void OpenVariation();
     void OpenIllumination();
 
-private:
-    /// Looks at a copy of the design: the record's first readings are its own.
+    /// The design may have changed. Looks at a copy of it: the record's first readings are its own.
     void Follow();
+
+private:
     void TellNotRead(const std::string& path);
     void Compare(const TelescopeFields& other, const QString& name);
     void FollowCheck();
@@ -41,7 +42,7 @@ private:
     void FollowVariation();
     void FollowIllumination();
 
-    CMainFrame& m_frame;
+    QWidget& m_frame;
     CMyDialogBar& m_whatIfBar;
     COrrevaDoc& m_document;
     CDesignCheckField* m_checkField;

@@ -8,7 +8,7 @@
 namespace {
 
 /// By the order of RescueReason.
-constexpr Bilingual kReasons[] = {
+constexpr Bilingual kReasonTexts[] = {
     {"not saved, by choice", "nicht gesichert, gewollt"},
     {"could not be saved", "nicht zu sichern"},
     {"program broke off", "Programm brach ab"},
@@ -30,8 +30,8 @@ std::string PlainTime(std::string time)
 
 ListRow EarlierDesignRow(const RescueCopy& copy, int language)
 {
-    return {PlainTime(copy.time), kReasons[static_cast<std::size_t>(copy.reason)].In(language), copy.title,
-            Cp1252FromUtf8(copy.path)};
+    return {PlainTime(copy.time), kReasonTexts[static_cast<std::size_t>(copy.reason)].In(language),
+            copy.title, Cp1252FromUtf8(copy.path)};
 }
 
 bool ReadEarlierDesign(const RescueCopy& copy, COrrevaData& design)

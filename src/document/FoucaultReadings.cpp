@@ -13,7 +13,7 @@ constexpr std::size_t kMostBookBytes = std::size_t{64} << 20;
 
 constexpr Bilingual kMissing{"There are no Foucault readings beside this design.",
                              "Neben diesem Entwurf stehen keine Foucault-Messwerte."};
-constexpr Bilingual kDamaged{
+constexpr Bilingual kDamagedReadings{
     "The file of Foucault readings %s is damaged and was not read.",
     "Die Datei der Foucault-Messwerte %s ist beschädigt und wurde nicht gelesen."_cp1252};
 constexpr Bilingual kNotSaved{"The Foucault readings could not be written to %s.",
@@ -54,7 +54,7 @@ std::string FoucaultReadings::Open(const std::string& designPath, int language)
     const auto book = text && text->size() <= kMostBookBytes ? ParseBook(*text) : std::nullopt;
     if (!book) {
         m_damaged = path;
-        return AboutFile(kDamaged, path, language);
+        return AboutFile(kDamagedReadings, path, language);
     }
     m_book = *book;
     return {};

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kMostZones = 100000;
+constexpr int kMostFtaZones = 100000;
 
 constexpr const char* kBetweenRadiusAndZones = "#Orientation Longitudinal\r\n"
                                                "-1\r\n"
@@ -54,7 +54,7 @@ std::optional<std::string> FtaExport(COrrevaData& data)
     const double D = data.GetMirrorDiameter();
     const double f = data.GetFocalLength();
     const int N = FtaZoneCount(D, f);
-    if (N > kMostZones) {
+    if (N > kMostFtaZones) {
         return std::nullopt;
     }
     std::string text = std::string("#Comment\r\n") + data.GetTitle().GetText() + "\r\n";

@@ -130,7 +130,7 @@ public:
     BarParams bar_params{};
     std::int32_t bar_position = 0;        ///< where the bar's slider stands
     std::optional<RecordState> bar_start; ///< the record before the trial, as long as nothing else changed it
-    FoucaultReadings readings; ///< of the knife edge, kept beside the design
+    FoucaultReadings readings;            ///< of the knife edge, kept beside the design
 
     /// The main record and the readings, as a step of the user finds or leaves them.
     RecordState PresentState() const;

@@ -71,8 +71,9 @@ void Recompute(COrrevaDoc& document)
 /// The lower end first, for a negative centre too.
 SliderState RangeAround(std::int32_t i)
 {
-    const auto [low, high] = std::minmax(TruncToInt32(i * 0.5), TruncToInt32(i * 2.0));
-    return {low, high, std::nullopt};
+    const std::int32_t half = TruncToInt32(i * 0.5);
+    const std::int32_t twice = TruncToInt32(i * 2.0);
+    return {std::min(half, twice), std::max(half, twice), std::nullopt};
 }
 
 /// The slider stands there from now on, so that its repaint is no move.

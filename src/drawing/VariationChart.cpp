@@ -46,8 +46,9 @@ std::string WithUnit(const Bilingual& label, std::string_view unit, int language
 
 std::string_view LeftUnit(const VariationCurves& curves)
 {
-    const auto length = std::ranges::find(curves.values, std::string_view("mm"),
-                                          [](const DesignValue* value) { return std::string_view(value->unit); });
+    const auto length =
+        std::ranges::find(curves.values, std::string_view("mm"),
+                          [](const DesignValue* value) { return std::string_view(value->unit); });
     return length == curves.values.end() ? curves.values.front()->unit : (*length)->unit;
 }
 
@@ -140,7 +141,8 @@ private:
 
 Chart VariationChart(const VariationCurves& curves, int language)
 {
-    return curves.field == nullptr || curves.values.empty() ? Chart{} : VariationPlan(curves, language).Make();
+    return curves.field == nullptr || curves.values.empty() ? Chart{}
+                                                            : VariationPlan(curves, language).Make();
 }
 
 std::size_t NearestPlace(const VariationCurves& curves, double x)

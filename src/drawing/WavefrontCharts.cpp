@@ -10,8 +10,8 @@
 namespace {
 
 // Hues that stand apart on a light and on a dark ground.
-constexpr Colour kCurveColours[] = {{38, 110, 200}, {200, 75, 40},  {40, 140, 70},
-                                    {150, 80, 180}, {170, 125, 20}, {20, 140, 150}};
+constexpr Colour kSeriesColours[] = {{38, 110, 200}, {200, 75, 40},  {40, 140, 70},
+                                     {150, 80, 180}, {170, 125, 20}, {20, 140, 150}};
 constexpr Colour kZoneMark{140, 140, 140};
 constexpr Colour kEighthWave{60, 150, 80};
 constexpr Colour kQuarterWave{205, 60, 60};
@@ -19,7 +19,7 @@ constexpr Colour kToleranceBand{205, 232, 210};
 constexpr Bilingual kNoFigure{"no figure yet", "noch keine Fläche"_cp1252};
 constexpr Bilingual kRadiusTitle{"Radius (mm)", "Radius (mm)"};
 
-Colour CurveColour(std::size_t index) { return kCurveColours[index % std::size(kCurveColours)]; }
+Colour CurveColour(std::size_t index) { return kSeriesColours[index % std::size(kSeriesColours)]; }
 
 std::size_t FiniteCurves(std::span<const WavefrontCurve> curves)
 {

@@ -33,7 +33,7 @@ bool WriteSvg(QBuffer& file, Pixel size, const QString& title, const Paint& pain
     generator.setSize(QSize(size.x, size.y));
     generator.setViewBox(QRect(0, 0, size.x, size.y));
     generator.setResolution(kPixelsPerInch);
-    generator.setTitle(title);
+    generator.setTitle(title.toHtmlEscaped()); // which the generator leaves to us
     paint(generator);
     return true;
 }

@@ -19,11 +19,11 @@
 
 namespace {
 
-constexpr Bilingual kTitle{"Compare designs", "Entwürfe vergleichen"_cp1252};
+constexpr Bilingual kCompareTitle{"Compare designs", "Entwürfe vergleichen"_cp1252};
 constexpr Bilingual kAll{"Show all values", "Alle Werte zeigen"};
 constexpr Bilingual kEarlier{"Earlier design...", "Früherer Entwurf..."_cp1252};
 constexpr Bilingual kFile{"Other file...", "Andere Datei..."};
-constexpr ListColumn kColumns[] = {
+constexpr ListColumn kCompareColumns[] = {
     {{"Value", "Wert"}, 300},
     {{"This design", "Dieser Entwurf"}, 170, true},
     {{"The other design", "Der andere Entwurf"}, 170, true},
@@ -56,10 +56,10 @@ CCompareWindow::CCompareWindow(QWidget* parent)
     : QDialog(parent), m_names(new QLabel(this)), m_sections(new CSectionPair(this)),
       m_all(new QCheckBox(Shown(kAll), this)), m_list(new CResultList(this))
 {
-    setWindowTitle(Shown(kTitle));
+    setWindowTitle(Shown(kCompareTitle));
     setObjectName("compareWindow");
     m_names->setTextFormat(Qt::PlainText);
-    m_list->SetColumns(kColumns, g_nLanguage);
+    m_list->SetColumns(kCompareColumns, g_nLanguage);
     m_list->setAccessibleName(windowTitle());
     auto* const file = new QPushButton(Shown(kFile), this);
     file->setObjectName("otherFile");

@@ -11,26 +11,27 @@
 
 namespace {
 
-constexpr Bilingual kTitle{"Design check", "Entwurf prüfen"_cp1252};
+constexpr Bilingual kCheckTitle{"Design check", "Entwurf prüfen"_cp1252};
 constexpr Bilingual kNoTelescope{"No telescope is loaded.", "Es ist kein Teleskop geladen."};
 constexpr Bilingual kNothingFound{"The check finds nothing to complain of.",
                                   "Die Prüfung hat nichts zu beanstanden."_cp1252};
-constexpr Bilingual kHint{"A double click opens the sheet at the field.",
-                          "Ein Doppelklick öffnet das Blatt bei dem Feld."_cp1252};
-constexpr Bilingual kColumns[] = {{"Severity", "Schwere"}, {"Finding", "Befund"}, {"Remedy", "Abhilfe"}};
+constexpr Bilingual kCheckHint{"A double click opens the sheet at the field.",
+                               "Ein Doppelklick öffnet das Blatt bei dem Feld."_cp1252};
+constexpr Bilingual kCheckColumns[] = {{"Severity", "Schwere"}, {"Finding", "Befund"}, {"Remedy", "Abhilfe"}};
 constexpr int kSeverityColumn = 0;
 constexpr int kKeyRole = Qt::UserRole;
 
 } // namespace
 
 CDesignCheckWindow::CDesignCheckWindow(QWidget* parent)
-    : QDialog(parent), m_message(new QLabel(this)), m_table(new QTableWidget(0, std::size(kColumns), this))
+    : QDialog(parent), m_message(new QLabel(this)),
+      m_table(new QTableWidget(0, std::size(kCheckColumns), this))
 {
-    setWindowTitle(Shown(kTitle));
+    setWindowTitle(Shown(kCheckTitle));
     setObjectName("designCheckWindow");
     m_table->setAccessibleName(windowTitle());
     QStringList titles;
-    for (const Bilingual& column : kColumns) {
+    for (const Bilingual& column : kCheckColumns) {
         titles << Shown(column);
     }
     m_table->setHorizontalHeaderLabels(titles);
@@ -57,7 +58,7 @@ CDesignCheckWindow::CDesignCheckWindow(QWidget* parent)
 
 void CDesignCheckWindow::ShowFindings(const std::vector<DesignFinding>& findings)
 {
-    ShowMessage(findings.empty() ? kNothingFound : kHint);
+    ShowMessage(findings.empty() ? kNothingFound : kCheckHint);
     m_table->setRowCount(static_cast<int>(findings.size()));
     for (int row = 0; row < m_table->rowCount(); ++row) {
         AddFinding(row, findings[static_cast<std::size_t>(row)]);

@@ -29,20 +29,19 @@
 
 namespace {
 
-constexpr Bilingual kTitle{"Illumination", "Ausleuchtung"};
+constexpr Bilingual kLightTitle{"Illumination", "Ausleuchtung"};
 constexpr Bilingual kSecondaries{"Secondaries", "Fangspiegel"};
-constexpr Bilingual kTable{"Table", "Tabelle"};
+constexpr Bilingual kLightTable{"Table", "Tabelle"};
 constexpr Bilingual kPrint{"Print...", "Drucken..."};
 constexpr Bilingual kSave{"Save picture...", "Bild speichern..."};
 constexpr Bilingual kPictures{"PNG (*.png);;SVG (*.svg);;PDF (*.pdf)",
                               "PNG (*.png);;SVG (*.svg);;PDF (*.pdf)"};
-constexpr Bilingual kNotWritten{"The file cannot be written.", "Die Datei kann nicht geschrieben werden."};
-constexpr Bilingual kHint{"Point into the curve, or move in it with the arrow keys.",
-                          "Zeigen Sie in die Kurve, oder gehen Sie in ihr mit den Pfeiltasten."};
+constexpr Bilingual kLightHint{"Point into the curve, or move in it with the arrow keys.",
+                               "Zeigen Sie in die Kurve, oder gehen Sie in ihr mit den Pfeiltasten."};
 constexpr Bilingual kTry{
     "A click or Enter tries the secondary in the what-if bar.",
     "Ein Klick oder die Eingabetaste probiert den Fangspiegel in der Was-wäre-wenn-Leiste."_cp1252};
-constexpr Bilingual kNone{"No telescope is loaded.", "Es ist kein Teleskop geladen."};
+constexpr Bilingual kLightNone{"No telescope is loaded.", "Es ist kein Teleskop geladen."};
 
 constexpr ListColumn kPointColumns[] = {{{"Off the centre", "Abstand von der Mitte"}, 150, true},
                                         {{"Angle", "Winkel"}, 90, true},
@@ -51,7 +50,7 @@ constexpr ListColumn kPointColumns[] = {{{"Off the centre", "Abstand von der Mit
                                         {{"Of the mirror's light", "Vom Licht des Spiegels"}, 150, true}};
 
 constexpr std::size_t kAxesEachWay = 4;
-constexpr Pixel kPictureSize{1200, 750};
+constexpr Pixel kLightPictureSize{1200, 750};
 
 QTableWidgetItem* NewCell(const std::string& text, bool bold)
 {
@@ -71,7 +70,7 @@ CIlluminationWindow::CIlluminationWindow(std::vector<Eyepiece> eyepieces, QWidge
       m_axes(new QTableWidget(0, std::size(kSecondaryChoiceColumns), this)), m_points(new CResultList(this)),
       m_print(new QPushButton(Shown(kPrint), this)), m_save(new QPushButton(Shown(kSave), this))
 {
-    setWindowTitle(Shown(kTitle));
+    setWindowTitle(Shown(kLightTitle));
     setObjectName("illuminationWindow");
     m_reading->setTextFormat(Qt::PlainText);
     m_reading->setObjectName("reading");
@@ -89,7 +88,7 @@ void CIlluminationWindow::MakeCharts()
     m_axesCurves->setObjectName("axesCurves");
     m_axesCurves->setAccessibleName(Shown(kSecondaries));
     m_axes->setAccessibleName(Shown(kSecondaries));
-    m_points->setAccessibleName(Shown(kTable));
+    m_points->setAccessibleName(Shown(kLightTable));
     m_points->SetColumns(kPointColumns, g_nLanguage);
     QStringList titles;
     for (const ListColumn& column : kSecondaryChoiceColumns) {
@@ -111,7 +110,7 @@ void CIlluminationWindow::MakeCharts()
     secondaries->setSizes({500, 480}); // the table whole
     auto* const tabs = new QTabWidget(this);
     tabs->addTab(secondaries, Shown(kSecondaries));
-    tabs->addTab(m_points, Shown(kTable));
+    tabs->addTab(m_points, Shown(kLightTable));
     auto* const parts = new QSplitter(Qt::Vertical, this);
     parts->addWidget(m_curve);
     parts->addWidget(tabs);
@@ -122,7 +121,7 @@ void CIlluminationWindow::MakeCharts()
     column->addWidget(m_reading);
 
     connect(m_curve, &CChartView::Pointed, this, &CIlluminationWindow::ReadOut);
-    connect(m_curve, &CChartView::PointerGone, this, [this] { m_reading->setText(Shown(kHint)); });
+    connect(m_curve, &CChartView::PointerGone, this, [this] { m_reading->setText(Shown(kLightHint)); });
     connect(m_curve, &CChartView::GroundChanged, this, &CIlluminationWindow::Refresh);
     connect(m_axesCurves, &CChartView::ClickedAt, this, &CIlluminationWindow::ChooseNearest);
     connect(m_axes, &QTableWidget::cellClicked, this, &CIlluminationWindow::Choose);
@@ -162,7 +161,7 @@ void CIlluminationWindow::ShowNothing()
     m_print->setEnabled(false);
     m_save->setEnabled(false);
     Refresh();
-    m_reading->setText(Shown(kNone));
+    m_reading->setText(Shown(kLightNone));
 }
 
 void CIlluminationWindow::Refresh()
@@ -179,7 +178,7 @@ void CIlluminationWindow::Refresh()
     if (m_curve->Pointer()) {
         ReadOut(*m_curve->Pointer());
     } else {
-        m_reading->setText(Shown(kHint));
+        m_reading->setText(Shown(kLightHint));
     }
 }
 
@@ -295,7 +294,7 @@ void CIlluminationWindow::Save()
         bytesPath += form.startsWith("SVG") ? ".svg" : form.startsWith("PDF") ? ".pdf" : ".png";
     }
     const auto fieldStops = FieldStopsOf(m_eyepieces, m_stops.f, ShownField(m_stops, m_wanted));
-    const auto bytes = PictureBytes(bytesPath, kPictureSize, m_title, [&](Surface& surface) {
+    const auto bytes = PictureBytes(bytesPath, kLightPictureSize, m_title, [&](Surface& surface) {
         PaintChart(surface, IlluminationChart(m_stops, m_wanted, fieldStops, kLightIllumination, g_nLanguage),
                    kLightChart);
     });

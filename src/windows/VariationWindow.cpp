@@ -31,26 +31,25 @@
 
 namespace {
 
-constexpr Bilingual kTitle{"Variation", "Variation"};
+constexpr Bilingual kVariationTitle{"Variation", "Variation"};
 constexpr Bilingual kParameter{"Parameter", "Parameter"};
 constexpr Bilingual kFrom{"From", "Von"};
 constexpr Bilingual kTo{"To", "Bis"};
 constexpr Bilingual kPoints{"Points", "Punkte"};
 constexpr Bilingual kValue{"Value %d", "Wert %d"};
-constexpr Bilingual kNone{"(none)", "(keiner)"};
+constexpr Bilingual kVariationNone{"(none)", "(keiner)"};
 constexpr Bilingual kStop{"Stop", "Anhalten"};
-constexpr Bilingual kTable{"Table as CSV...", "Tabelle als CSV..."};
+constexpr Bilingual kVariationTable{"Table as CSV...", "Tabelle als CSV..."};
 constexpr Bilingual kPicture{"Picture...", "Bild..."};
 constexpr Bilingual kNoNumber{"The range needs two different numbers.",
                               "Der Bereich braucht zwei verschiedene Zahlen."};
 constexpr Bilingual kStopped{"Stopped.", "Angehalten."};
-constexpr Bilingual kNotWritten{"The file cannot be written.", "Die Datei kann nicht geschrieben werden."};
 
 constexpr int kMostPoints = 100'000;
 constexpr int kUsualPoints = 201;
 constexpr const char* kFirstParameter = "secondary/diameter";
 constexpr const char* kFirstValues[] = {"full_field", "linear_obstruction"};
-constexpr QSize kPictureSize{1600, 1000};
+constexpr QSize kVariationPictureSize{1600, 1000};
 
 std::string Shortest(double value)
 {
@@ -70,10 +69,10 @@ CVariationWindow::CVariationWindow(QWidget* parent)
     : QDialog(parent), m_run(new CVariationRun(this)), m_chart(new CChartView(this)),
       m_parameter(new QComboBox(this)), m_from(new QLineEdit(this)), m_to(new QLineEdit(this)),
       m_points(new QSpinBox(this)), m_told(new QLabel(this)), m_progress(new QProgressBar(this)),
-      m_stop(new QPushButton(Shown(kStop), this)), m_table(new QPushButton(Shown(kTable), this)),
+      m_stop(new QPushButton(Shown(kStop), this)), m_table(new QPushButton(Shown(kVariationTable), this)),
       m_picture(new QPushButton(Shown(kPicture), this))
 {
-    setWindowTitle(Shown(kTitle));
+    setWindowTitle(Shown(kVariationTitle));
     setObjectName("variationWindow");
     m_told->setTextFormat(Qt::PlainText);
     m_told->setObjectName("told");
@@ -105,7 +104,7 @@ void CVariationWindow::MakeFields()
         m_values[i] = new QComboBox(this);
         right->addRow(Shown(kValue).replace("%d", QString::number(i + 1)), m_values[i]);
         if (i > 0) {
-            m_values[i]->addItem(Shown(kNone), QString());
+            m_values[i]->addItem(Shown(kVariationNone), QString());
         }
     }
     for (const DesignValue& value : DesignValues()) {
@@ -269,7 +268,8 @@ void CVariationWindow::Choose(double x)
 
 void CVariationWindow::ExportTable()
 {
-    const QString path = QFileDialog::getSaveFileName(this, Shown(kTable), "variation.csv", "CSV (*.csv)");
+    const QString path =
+        QFileDialog::getSaveFileName(this, Shown(kVariationTable), "variation.csv", "CSV (*.csv)");
     if (path.isEmpty()) {
         return;
     }
@@ -298,7 +298,7 @@ void CVariationWindow::ExportPicture()
     if (path.isEmpty()) {
         return;
     }
-    QImage image(kPictureSize, QImage::Format_RGB32);
+    QImage image(kVariationPictureSize, QImage::Format_RGB32);
     QPainter painter(&image);
     PainterSurface surface(painter, image.width(), image.height());
     PaintChart(surface, VariationChart(m_curves, g_nLanguage), kLightChart, 2 * kChartFontHeight);

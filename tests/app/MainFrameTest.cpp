@@ -2,6 +2,7 @@
 #include "app/HelpPages.h"
 
 #include "document/Commands.h"
+#include "painting/QtText.h"
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
 #include "views/RecordingPrinter.h"

@@ -141,9 +141,9 @@ TEST_F(DrawVerb, VectorFormsHaveTheDesignsTitle)
     EXPECT_NE(std::string::npos, folder.Read("a.pdf").find(std::string("/Title (\xFE\xFF\0\xC4\0b)", 15)));
 }
 
-TEST_F(DrawVerb, APictureOfNoDesignHasTheProgramsName)
+TEST_F(DrawVerb, APictureWithoutATitleHasTheProgramsName)
 {
-    record.Clear();
+    record.SetTitle("");
     ASSERT_EQ(0, Draw("polygon", folder / "a.svg"));
     EXPECT_NE(std::string::npos, folder.Read("a.svg").find("<title>Orreva</title>"));
 }

@@ -12,7 +12,7 @@
 namespace {
 
 /// No mask comes near it; the list itself may be longer than any disk.
-constexpr std::int32_t kMostZones = 100000;
+constexpr std::int32_t kMostPrintedZones = 100000;
 
 /// The lines of a text that has LF or CR LF between them.
 std::vector<std::string> LinesOf(const std::string& text)
@@ -49,11 +49,11 @@ void FoucaultReport(const ReportContext& context, const ReportSink& sink)
     }
     sink(ReportLine(titles));
     bool more = true;
-    for (std::int32_t i = 0; more && i < std::min(table.RowCount(), kMostZones); ++i) {
+    for (std::int32_t i = 0; more && i < std::min(table.RowCount(), kMostPrintedZones); ++i) {
         more = sink(ReportLine(table.Row(i)));
     }
-    if (more && table.RowCount() > kMostZones) {
-        sink("more than " + std::to_string(kMostZones) + " zones");
+    if (more && table.RowCount() > kMostPrintedZones) {
+        sink("more than " + std::to_string(kMostPrintedZones) + " zones");
     }
 }
 

@@ -26,7 +26,7 @@ void LogMark(const char* psz)
 namespace {
 
 /// The figure of one line of /proc/meminfo, such as "MemTotal:  2048 kB", in bytes.
-std::uint64_t Figure(const std::string& report, const char* pszName)
+std::uint64_t ReportedFigure(const std::string& report, const char* pszName)
 {
     const char* const line = FindText(pszName, report.c_str());
     return line != nullptr ? std::strtoull(line + std::strlen(pszName), nullptr, 10) << 10 : 0;
@@ -40,17 +40,17 @@ MemoryFigures ReadMemoryFigures()
     const std::string system = ReadFileBytes("/proc/meminfo").value_or("");
     const std::string self = ReadFileBytes("/proc/self/status").value_or("");
     MemoryFigures figures;
-    figures.physical = Figure(system, "MemTotal:");
-    figures.freePhysical = Figure(system, "MemAvailable:");
-    figures.paging = Figure(system, "SwapTotal:");
-    figures.freePaging = Figure(system, "SwapFree:");
+    figures.physical = ReportedFigure(system, "MemTotal:");
+    figures.freePhysical = ReportedFigure(system, "MemAvailable:");
+    figures.paging = ReportedFigure(system, "SwapTotal:");
+    figures.freePaging = ReportedFigure(system, "SwapFree:");
     if (figures.physical != 0) {
         figures.percentInUse = 100 - figures.freePhysical * 100 / figures.physical;
     }
     rlimit limit = {};
     const bool limited = getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
     figures.addressSpace = limited ? limit.rlim_cur : kAddressSpace;
-    const std::uint64_t used = Figure(self, "VmSize:");
+    const std::uint64_t used = ReportedFigure(self, "VmSize:");
     figures.freeAddressSpace = figures.addressSpace > used ? figures.addressSpace - used : 0;
     return figures;
 }

@@ -91,8 +91,8 @@ bool IsBlankTooThin(const CheckedNumbers& numbers)
         [&](const char* figure) { return numbers(figure) < kFineEnough; });
 }
 
-constexpr Bilingual kObstructs{"The secondary obstructs %s %% of the mirror's diameter.",
-                               "Der Fangspiegel verdeckt %s %% des Spiegeldurchmessers."};
+constexpr Bilingual kObstructsMuch{"The secondary obstructs %s %% of the mirror's diameter.",
+                                   "Der Fangspiegel verdeckt %s %% des Spiegeldurchmessers."};
 constexpr Bilingual kObstructsLess{
     "On the page %s, a smaller number in the field \"%s\" obstructs less, or its reset arrow proposes one.",
     "Auf der Seite %s verdeckt eine kleinere Zahl im Feld \"%s\" weniger, oder sein Rücksetzpfeil schlägt "
@@ -160,9 +160,9 @@ constexpr CheckRule kRules[] = {
       "mm."_cp1252},
      kEnterLarger},
     {Severity::kWarning, "obstruction-large", kObstruction, kMinorAxis, IsObstructionLarge,
-     Number<kObstruction>, nullptr, kObstructs, kObstructsLess},
+     Number<kObstruction>, nullptr, kObstructsMuch, kObstructsLess},
     {Severity::kNote, "obstruction-large", kObstruction, kMinorAxis, IsObstructionNoted, Number<kObstruction>,
-     nullptr, kObstructs, kObstructsLess},
+     nullptr, kObstructsMuch, kObstructsLess},
     {Severity::kWarning,
      "front-too-short",
      kFront,

@@ -14,7 +14,7 @@ constexpr Bilingual kUnread{"; not read: \"%s\"", "; nicht gelesen: \"%s\""};
 constexpr std::size_t kLongestTail = 40;
 
 /// Up to two decimals without zeros at their end; a number that no telescope has, in short.
-std::string Millimetres(double value)
+std::string ReadMillimetres(double value)
 {
     if (std::abs(value) >= 1e9) {
         return FiniteText("%g mm", {value});
@@ -47,6 +47,6 @@ std::string QuickNewReading(const std::string& aperture, const std::string& foca
 {
     const double D = DecimalValue(aperture.c_str());
     const double f = DecimalValue(focal_length.c_str());
-    return Millimetres(D) + ", " + Millimetres(f) + ", " + FiniteText("f/%0.1f", {f / D}) +
+    return ReadMillimetres(D) + ", " + ReadMillimetres(f) + ", " + FiniteText("f/%0.1f", {f / D}) +
            Unread(aperture, language) + Unread(focal_length, language);
 }
