@@ -29,7 +29,7 @@ constexpr const char* kNoteEnding = ".note";
 constexpr const char* kLockEnding = ".lock";
 constexpr std::size_t kLongestNote = 65536;
 
-std::string HomeFolder()
+std::string HomeOfUser()
 {
     if (const char* const home = std::getenv("HOME"); home != nullptr && *home == '/') {
         return home;
@@ -84,7 +84,7 @@ std::string RescueFolder()
     if (state != nullptr && *state == '/') {
         return std::string(state) + "/orreva/rescue";
     }
-    const std::string home = HomeFolder();
+    const std::string home = HomeOfUser();
     return home.empty() ? home : home + "/.local/state/orreva/rescue";
 }
 

@@ -173,3 +173,23 @@ ChartLayout LayOutChart(const Chart& chart, std::int32_t width, std::int32_t hei
     }
     return layout;
 }
+
+double ShareOf(double value, const ChartRange& range)
+{
+    return (value - range.from) / (range.to - range.from);
+}
+
+Point ChartPlot::PlaceOf(Pixel at) const
+{
+    const double across = (at.x - static_cast<double>(rect.left)) / (rect.right - 1.0 - rect.left);
+    const double down = (at.y - static_cast<double>(rect.top)) / (rect.bottom - 1.0 - rect.top);
+    return {x.from + across * (x.to - x.from), left.to + down * (left.from - left.to)};
+}
+
+Point ChartPlot::PixelOf(Point place, ChartSide side) const
+{
+    const double across = ShareOf(place.x, x);
+    const double up = ShareOf(place.y, side == ChartSide::kLeft ? left : right);
+    return {rect.left + across * (rect.right - 1.0 - rect.left),
+            rect.bottom - 1.0 - up * (rect.bottom - 1.0 - rect.top)};
+}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "drawing/Chart.h"
+#include "drawing/ChartParts.h"
 
 /// How a chart's parts share the surface; made once for a painting.
 struct ChartLayout {
@@ -26,3 +26,6 @@ std::int32_t ChartTextWidth(const std::string& text, std::int32_t fontHeight);
 std::int32_t ChartBandHeight(std::int32_t fontHeight);
 /// The sample of the colour before a line's name.
 std::int32_t ChartSampleWidth(std::int32_t fontHeight);
+
+/// Where a value stands in a range: 0 at its start, 1 at its end.
+double ShareOf(double value, const ChartRange& range);

@@ -16,12 +16,12 @@ constexpr Colour kWantedColour{198, 40, 40};
 constexpr std::size_t kMostPoints = 2000; // more than any screen has columns
 
 constexpr Bilingual kPresent{"present", "jetzt"};
-constexpr Bilingual kWanted{"wanted field", "gewünschtes Feld"_cp1252};
+constexpr Bilingual kWantedField{"wanted field", "gewünschtes Feld"_cp1252};
 
-constexpr std::string_view kFields[] = {"misc/wanted_100percent_fow", "full_field", "tube_field_limit",
-                                        "focuser_field_limit", "field_at_75_percent"};
+constexpr std::string_view kFieldValues[] = {"misc/wanted_100percent_fow", "full_field", "tube_field_limit",
+                                             "focuser_field_limit", "field_at_75_percent"};
 
-bool IsField(const DesignValue& value) { return std::ranges::count(kFields, value.name) > 0; }
+bool IsField(const DesignValue& value) { return std::ranges::count(kFieldValues, value.name) > 0; }
 
 /// Finite numbers from the lowest to the highest.
 struct Extent {
@@ -124,7 +124,7 @@ private:
     {
         if (std::ranges::any_of(m_curves.values, [](const DesignValue* value) { return IsField(*value); })) {
             m_left.Take(m_curves.wanted_field);
-            m_chart.levels.push_back({m_curves.wanted_field, kWantedColour, kWanted.In(m_language)});
+            m_chart.levels.push_back({m_curves.wanted_field, kWantedColour, kWantedField.In(m_language)});
         }
     }
 

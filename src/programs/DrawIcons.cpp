@@ -1,5 +1,6 @@
-// A tool of the build: draws each icon as pictures of pixels, so that the workbench starts without reading
-// and rendering vector files. DrawIcons FOLDER ICON.svg...
+// A tool of the build: draws each icon as plain pixels, so that the workbench starts without rendering vector
+// files and without the toolkit's readers of pictures. DrawIcons FOLDER ICON.svg... writes ICON-1.argb,
+// ICON-2.argb and ICON-3.argb: the width, then the pixels row by row.
 
 #include <QFile>
 #include <QFileInfo>
@@ -25,7 +26,9 @@ bool Draw(const QString& source, const QString& folder)
         painter.end();
         QFile file(QString("%1/%2-%3.argb").arg(folder, QFileInfo(source).baseName()).arg(scale));
         const auto* const pixels = reinterpret_cast<const char*>(picture.constBits());
+        const qint32 width = picture.width();
         if (!icon.isValid() || !file.open(QFile::WriteOnly) ||
+            file.write(reinterpret_cast<const char*>(&width), sizeof width) != sizeof width ||
             file.write(pixels, picture.sizeInBytes()) != picture.sizeInBytes()) {
             std::fprintf(stderr, "%s cannot be drawn\n", qPrintable(source));
             return false;

@@ -78,15 +78,22 @@ void StandOn(QAbstractItemView& view, int row, int column)
     view.setCurrentIndex(view.model()->index(row, column));
 }
 
+/// The editor that is open in a table, null if there is none; those that have closed are gone then.
+QLineEdit* EditorOf(const QAbstractItemView& view)
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return view.viewport()->findChild<QLineEdit*>();
+}
+
 /// Types into the cell that the table stands on, and ends with a key.
 void TypeCell(CReadingsView& view, const QString& text, int key)
 {
     view.setFocus();
     for (const QChar c : text) {
-        QWidget* const editor = view.viewport()->findChild<QLineEdit*>();
+        QWidget* const editor = EditorOf(view);
         QTest::keyClicks(editor != nullptr ? editor : static_cast<QWidget*>(&view), QString(c));
     }
-    QTest::keyClick(view.viewport()->findChild<QLineEdit*>(), static_cast<Qt::Key>(key));
+    QTest::keyClick(EditorOf(view), static_cast<Qt::Key>(key));
     QCoreApplication::processEvents();
 }
 
@@ -148,7 +155,7 @@ TEST_F(FoucaultPages, SeriesAreAddedCopiedRenamedAndDeleted)
         ASSERT_EQ(2, table.rowCount());
         EXPECT_EQ("Series 1 (2)", Cell(table, 1, 0));
         Click(page, 1104);
-        auto* const editor = table.viewport()->findChild<QLineEdit*>();
+        auto* const editor = EditorOf(table);
         ASSERT_NE(nullptr, editor);
         editor->setText("second polish");
         QTest::keyClick(editor, Qt::Key_Return);
