@@ -12,7 +12,7 @@ namespace {
 /// On either side of a column's texts, in pixels.
 constexpr int kColumnGap = 4;
 /// Above and below them.
-constexpr int kRowGap = 2;
+constexpr int kRowGap = 3;
 
 bool IsOfResultList(const QWidget* widget)
 {

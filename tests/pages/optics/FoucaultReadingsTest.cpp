@@ -159,6 +159,7 @@ TEST_F(FoucaultPages, SeriesAreAddedCopiedRenamedAndDeleted)
         ASSERT_NE(nullptr, editor);
         editor->setText("second polish");
         QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents(); // the editor ends after the key
         EXPECT_EQ("second polish", Cell(table, 1, 0));
         table.item(1, 0)->setText("Series 1");
         EXPECT_EQ("second polish", Cell(table, 1, 0));
@@ -224,6 +225,10 @@ TEST_F(FoucaultPages, EnterWalksDownARunAndOnToTheNextAndTabAlongAZone)
         EXPECT_EQ("1.5", Cell(view, 1, 1));
         EXPECT_EQ(view.model()->index(1, 2), view.currentIndex());
         EXPECT_TRUE(sheet.isVisible());
+        if (QLineEdit* const next = EditorOf(view)) { // of the cell that TAB led to
+            QTest::keyClick(next, Qt::Key_Escape);
+            QCoreApplication::processEvents();
+        }
         StandOn(view, 3, 1); // the zone that waits to be filled is the last row
         view.setFocus();
         QTest::keyClick(&view, Qt::Key_Return);
