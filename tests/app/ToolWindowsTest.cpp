@@ -96,9 +96,9 @@ TEST_F(ToolWindows, ADoubleClickOpensTheSheetAtTheField)
     Choose(33021);
     auto* const window = Find<CDesignCheckWindow>();
     InNextDialog<CPropertySheet>([](CPropertySheet& sheet) {
-        QCoreApplication::processEvents();
-        EXPECT_EQ(2, sheet.ActiveIndex());
+        EXPECT_TRUE(QTest::qWaitFor([&sheet] { return sheet.ActiveIndex() == 2; })) << "the sheet's own loop";
         auto* const edit = FindControl<QLineEdit>(sheet.Page(2), 1015);
+        ASSERT_NE(nullptr, edit);
         EXPECT_EQ(edit, sheet.focusWidget());
         EXPECT_EQ("1.0", edit->selectedText().left(3));
         sheet.reject();
