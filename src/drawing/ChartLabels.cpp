@@ -21,6 +21,12 @@ ChartLabels::ChartLabels(const PixelRect& plot, std::int32_t fontHeight)
       m_cells(static_cast<std::size_t>(m_columns) * static_cast<std::size_t>(m_rows))
 {}
 
+std::size_t ChartLabels::CellAt(std::int32_t row, std::int32_t column) const
+{
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns) +
+           static_cast<std::size_t>(column);
+}
+
 void ChartLabels::AddLine(Point from, Point to)
 {
     const double left = m_plot.left;
@@ -37,7 +43,7 @@ void ChartLabels::AddLine(Point from, Point to)
         const double share = part->enter + (part->leave - part->enter) * i / steps;
         const auto column = static_cast<std::int32_t>((from.x + dx * share - left) / kCell);
         const auto row = static_cast<std::int32_t>((from.y + dy * share - top) / kCell);
-        m_cells[static_cast<std::size_t>(row * m_columns + column)] |= kLine;
+        m_cells[CellAt(row, column)] |= kLine;
     }
 }
 
@@ -80,7 +86,7 @@ void ChartLabels::VisitCells(const PixelRect& box, Visit visit) const
     const std::int32_t lastColumn = (box.right - 1 - m_plot.left) / kCell;
     for (std::int32_t row = (box.top - m_plot.top) / kCell; row <= lastRow; ++row) {
         for (std::int32_t column = (box.left - m_plot.left) / kCell; column <= lastColumn; ++column) {
-            visit(static_cast<std::size_t>(row * m_columns + column));
+            visit(CellAt(row, column));
         }
     }
 }

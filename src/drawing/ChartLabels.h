@@ -24,6 +24,7 @@ public:
 private:
     enum Content : std::uint8_t { kLine = 1, kLabel = 2 };
 
+    std::size_t CellAt(std::int32_t row, std::int32_t column) const;
     PixelRect BoxAt(Pixel at, const std::string& text) const;
     bool IsInside(const PixelRect& box) const;
     /// All that is in the cells of a box.
