@@ -54,6 +54,8 @@
  <message><source>Show Secondary without Offset</source><translation>Fangspiegel ohne Offset darstellen</translation></message>
  <message><source>Show extended Focuser</source><translation>Focuser ausgefahren zeigen</translation></message>
  <message><source>Show Rockerbox/Upper Cage</source><translation>Spiegelbox/Hut zeigen</translation></message>
+ <message><source>High contrast</source><translation>Hoher Kontrast</translation></message>
+ <message><source>Both panes in black on white</source><comment>prompt</comment><translation>Beide Hälften in Schwarz auf Weiß</translation></message>
  <message><source>Calculator</source><translation>Rechner</translation></message>
  <message><source>Inch/mm Calculator</source><translation>Zoll Rechner</translation></message>
  <message><source>Polygon Calculator</source><translation>Mehreck Rechner</translation></message>

@@ -65,6 +65,7 @@ inline constexpr std::int32_t kDesignCheck = 33021;
 inline constexpr std::int32_t kCompare = 33022;
 inline constexpr std::int32_t kVariation = 33023;
 inline constexpr std::int32_t kIllumination = 33041;
+inline constexpr std::int32_t kHighContrast = 33063;
 inline constexpr std::int32_t kImportOld = 57601;
 inline constexpr std::int32_t kPrintSetup = 57606;
 inline constexpr std::int32_t kPrint = 57607;

@@ -19,7 +19,7 @@ inline double Luminance(Colour colour)
 /// The contrast of two colours by the same guidelines, 1 to 21.
 inline double Contrast(Colour one, Colour other)
 {
-    const auto [dark, light] = std::minmax(Luminance(one), Luminance(other));
+    const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 
