@@ -1,5 +1,6 @@
 #include "drawing/PaneColours.h"
 
+#include "drawing/IlluminationPicture.h"
 #include "support/Contrast.h"
 
 #include <gtest/gtest.h>
@@ -40,6 +41,26 @@ TEST(PaneColours, OfTheHighContrastSummaryAreRead)
 {
     EXPECT_GE(Contrast(kContrastSummary.text, kContrastSummary.field), kTextContrast);
     EXPECT_GE(Contrast(kContrastSummary.warning, kContrastSummary.field), kTextContrast);
+}
+
+TEST(ChartColours, AreReadAndTold)
+{
+    for (const ChartColours& c : {kLightChart, kDarkChart}) {
+        EXPECT_GE(Contrast(c.text, c.background), kTextContrast);
+        EXPECT_GE(Contrast(c.frame, c.background), kShapeContrast);
+    }
+}
+
+TEST(IlluminationColours, AreReadAndTold)
+{
+    for (const IlluminationColours& c : {kLightIllumination, kDarkIllumination}) {
+        for (const Colour line : {c.curve, c.other, c.obstruction, c.mark, c.wanted, c.eyepiece}) {
+            EXPECT_GE(Contrast(line, c.chart.background), kShapeContrast);
+        }
+        for (const Colour band : c.bands) {
+            EXPECT_GE(Contrast(c.bandText, band), kTextContrast);
+        }
+    }
 }
 
 } // namespace
