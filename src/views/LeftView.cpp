@@ -39,3 +39,5 @@ std::vector<PaneLine> CLeftView::Read()
     }
     return lines;
 }
+
+#include "moc_LeftView.cpp"

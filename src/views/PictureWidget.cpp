@@ -54,3 +54,5 @@ void CPictureWidget::paintEvent(QPaintEvent*)
     PainterSurface surface(painter, size.x, size.y);
     Paint(surface);
 }
+
+#include "moc_PictureWidget.cpp"

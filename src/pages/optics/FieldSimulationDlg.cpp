@@ -14,3 +14,5 @@ CFieldSimulationDlg::CFieldSimulationDlg(COrrevaDoc& document, QWidget* parent)
 }
 
 CFieldSimulationDlg::~CFieldSimulationDlg() = default;
+
+#include "moc_FieldSimulationDlg.cpp"

@@ -46,3 +46,5 @@ void CPolygonDialog::paintEvent(QPaintEvent* event)
     CopyValues();
     QDialog::paintEvent(event);
 }
+
+#include "moc_PolygonDialog.cpp"
