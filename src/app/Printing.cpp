@@ -7,6 +7,7 @@
 #include "painting/QtText.h"
 #include "views/Pane.h"
 
+#include <QChildEvent>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

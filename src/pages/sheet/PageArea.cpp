@@ -3,8 +3,23 @@
 #include <QDialog>
 #include <QEvent>
 #include <QLayout>
+#include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
+
+namespace {
+
+/// A page that has to be narrow scrolls before its fields cut what stands in them.
+void KeepNumbersWhole(QLineEdit& edit)
+{
+    constexpr int kEdges = 12; // pixels, on both sides together
+    const int least = edit.fontMetrics().horizontalAdvance("0000.00") + kEdges;
+    if (edit.minimumWidth() == 0 && edit.maximumWidth() > least) {
+        edit.setMinimumWidth(least);
+    }
+}
+
+} // namespace
 
 QSize RoomOnScreen(const QWidget& window)
 {
@@ -23,6 +38,9 @@ CPageArea::CPageArea(QWidget* page, QSize room) : m_room(room)
     page->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
     page->installEventFilter(this);
+    for (QLineEdit* const edit : page->findChildren<QLineEdit*>()) {
+        KeepNumbersWhole(*edit);
+    }
 }
 
 QSize CPageArea::sizeHint() const { return widget()->sizeHint().expandedTo(widget()->minimumSize()); }
