@@ -26,6 +26,8 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QShortcut>
+#include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
@@ -91,6 +93,12 @@ void CMainFrame::NameToolButtons()
     for (QAction* const action : m_ui->toolBar->actions()) {
         if (QWidget* const button = m_ui->toolBar->widgetForAction(action); button != nullptr) {
             button->setAccessibleName(action->text().section('\t', 0, 0).remove('&').trimmed());
+        }
+    }
+    constexpr Bilingual kRest{"More", "Weitere"};
+    for (const QToolBar* const bar : {m_ui->toolBar, m_ui->dialogBarBand}) {
+        if (auto* const rest = bar->findChild<QToolButton*>("qt_toolbar_ext_button")) {
+            rest->setAccessibleName(kRest.In(g_nLanguage));
         }
     }
 }

@@ -160,6 +160,12 @@ TEST_F(PaneReading, OfToolbarButtonsHasNoKeyBehindTheName)
     EXPECT_EQ((QStringList{"New ...", "Open...", "Save", "Print...", "Small Icons", "Large Icons", "List",
                            "Details", "About Orreva...", "Help on ...", "Properties"}),
               names);
+    for (const char* const name : {"toolBar", "dialogBarBand"}) {
+        auto* const rest =
+            app->Frame().findChild<QToolBar*>(name)->findChild<QWidget*>("qt_toolbar_ext_button");
+        ASSERT_NE(nullptr, rest) << name;
+        EXPECT_EQ("More", QAccessible::queryAccessibleInterface(rest)->text(QAccessible::Name));
+    }
 }
 
 TEST_F(PaneReadingGerman, IsGerman)
