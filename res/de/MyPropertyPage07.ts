@@ -4,6 +4,7 @@
 <context>
  <name>MyPropertyPage07</name>
  <message><source>Designation</source><translation>Bezeichnung</translation></message>
+ <message><source>&amp;Use the installed list</source><translation>&amp;Installierte Liste verwenden</translation></message>
  <message><source>Results</source><translation>Ergebnisse</translation></message>
 </context>
 </TS>

@@ -7,6 +7,7 @@
 #include "lib/files/FileQueries.h"
 #include "lib/platform/Debugger.h"
 #include "lib/text/Language.h"
+#include "model/analysis/EyepiecePlaces.h"
 #include "pages/dialogs/EarlierDesignsDialog.h"
 #include "pages/dialogs/QuickNewDialog.h"
 #include "pages/dialogs/RaytracingSettingsDialog.h"
@@ -254,7 +255,7 @@ void CQtHost::ShowIllumination(const IlluminationStops& stops, double wanted)
     QWidget* const owner = Owner();
     if (m_illumination == nullptr || m_illumination->parentWidget() != owner) {
         delete m_illumination;
-        m_illumination = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").entries, owner);
+        m_illumination = new CIlluminationWindow(LoadEyepieces(FindEyepieces().c_str()).entries, owner);
     }
     const QString title =
         m_document == nullptr ? QString() : ToQString(m_document->active_record->GetTitle().GetText());

@@ -11,6 +11,7 @@
 #include "lib/text/CodePage.h"
 #include "lib/text/FormatText.h"
 #include "lib/text/Language.h"
+#include "model/analysis/EyepiecePlaces.h"
 #include "painting/QtText.h"
 #include "windows/CompareWindow.h"
 #include "windows/DesignCheckField.h"
@@ -129,7 +130,8 @@ void CToolWindows::Follow()
 void CToolWindows::OpenIllumination()
 {
     if (m_illuminationWindow == nullptr) {
-        m_illuminationWindow = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").entries, &m_frame);
+        m_illuminationWindow =
+            new CIlluminationWindow(LoadEyepieces(FindEyepieces().c_str()).entries, &m_frame);
         connect(m_illuminationWindow, &CIlluminationWindow::MinorAxisWanted, this, [this](double minorAxis) {
             m_whatIfBar.TryValue(&COrrevaData::SetSecondaryDiameter, minorAxis);
         });

@@ -14,6 +14,7 @@
 #include "drawing/SectionZoom.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Numbers.h"
+#include "model/analysis/EyepiecePlaces.h"
 
 #include <limits>
 
@@ -78,6 +79,7 @@ int Report(const CommandLine& words)
     ReportContext context = ContextOf(terminal);
     context.details = words.Has("--details");
     context.zones = zones;
+    context.eyepiece_path = FindEyepieces();
     if (format != TableFormat::kText) {
         return WriteOutput(OutputPath(words),
                            (format == TableFormat::kCsv ? CsvReport : JsonReport)(pages, context));

@@ -52,8 +52,9 @@ const std::vector<Room> kRooms = {
     {"app",
      {"windows", "pages", "views", "painting", "document", "drawing", "raytrace", "model", "lib"},
      true},
+    {"cli/words", {"lib"}},
     {"cli/report", {"model", "lib"}},
-    {"cli", {"cli/report", "painting", "document", "drawing", "raytrace", "model", "lib"}, true},
+    {"cli", {"cli/words", "cli/report", "painting", "document", "drawing", "raytrace", "model", "lib"}, true},
     {"programs", {"app", "cli", "lib"}, true},
 };
 

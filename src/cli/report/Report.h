@@ -30,7 +30,7 @@ struct ReportContext {
     int language = kEnglish;
     /// The check box Show Details.
     bool details = false;
-    const char* eyepiece_path = "eyepiece.dat";
+    std::string eyepiece_path = "eyepiece.dat";
     ZoneOptions zones{};
 };
 
