@@ -210,6 +210,28 @@ TEST(House, NoCircleOfFilesCloses) { EXPECT_EQ(std::vector<std::string>{}, Circl
 
 TEST(House, NoCircleOfRoomsCloses) { EXPECT_EQ(std::vector<std::string>{}, Circle(GraphBy(FolderOf))); }
 
+TEST(House, ThePageOfTheHouseNamesEachRoomInAnOrderThatIncludesFollow)
+{
+    static const std::regex kRow("^\\| `([a-z/]+)` \\|");
+    std::vector<std::string> named;
+    std::ifstream page(fs::path(ORREVA_SOURCE_DIR) / "docs/architecture.md");
+    std::smatch match;
+    for (std::string line; std::getline(page, line);) {
+        if (std::regex_search(line, match, kRow)) {
+            named.push_back(match[1]);
+        }
+    }
+    EXPECT_EQ(kRooms.size(), named.size());
+    const Graph graph = GraphBy(FolderOf);
+    for (const auto& [room, targets] : graph) {
+        const auto row = std::ranges::find(named, room);
+        ASSERT_NE(row, named.end()) << room;
+        for (const std::string& target : targets) {
+            EXPECT_LT(std::ranges::find(named, target), row) << room << " includes " << target;
+        }
+    }
+}
+
 TEST(House, ACircleIsFound)
 {
     const Graph graph{{"a", {"b"}}, {"b", {"c", "d"}}, {"c", {}}, {"d", {"b"}}};

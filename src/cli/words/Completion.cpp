@@ -129,7 +129,7 @@ std::string BashVerbs(const ProgramWords& program)
                                              Spaced(verb.choices) + "' && plain=1\n") +
                  "        ;;\n";
     }
-    return lines + "    esac\n    [[ -z $verb ]] && plain=1\n";
+    return lines + "    *) words='' ;;\n    esac\n    [[ -z $verb ]] && plain=1\n";
 }
 
 /// `text` within single quotes of a shell.

@@ -67,7 +67,8 @@ TEST(ManPage, IsUnderstoodByMan)
     for (const ProgramWords* const program : {&WorkbenchWords(), &CompanionWords()}) {
         for (const int language : {kEnglish, kGerman}) {
             folder.Write("page.1", ManPage(*program, "1.2.3", language));
-            EXPECT_EQ(0, std::system("groff -man -Kutf8 -Tutf8 -ww -rCHECKSTYLE=3 page.1 >text 2>errors"));
+            EXPECT_EQ(
+                0, std::system("groff -man -Kutf8 -Tutf8 -P-cbu -ww -rCHECKSTYLE=3 page.1 >text 2>errors"));
             EXPECT_EQ("", folder.Read("errors")) << program->name;
             EXPECT_NE(std::string::npos,
                       folder.Read("text").find(language == kGerman ? "OPTIONEN" : "OPTIONS"));
