@@ -75,7 +75,7 @@ std::string RescueFolder()
     if (state != nullptr && *state == '/') {
         return std::string(state) + "/orreva/rescue";
     }
-    const std::string home = HomeFolder();
+    const std::string home = HomeOfUser();
     return home.empty() ? home : home + "/.local/state/orreva/rescue";
 }
 

@@ -31,7 +31,7 @@ void AddDataFolder(std::vector<std::string>& folders, std::string_view name)
 
 } // namespace
 
-std::string HomeFolder()
+std::string HomeOfUser()
 {
     if (const char* const home = std::getenv("HOME"); home != nullptr && *home == '/') {
         return home;
@@ -43,7 +43,7 @@ std::string HomeFolder()
 std::vector<std::string> DataFolders()
 {
     std::vector<std::string> folders;
-    const std::string home = HomeFolder();
+    const std::string home = HomeOfUser();
     AddDataFolder(folders, VariableOr("XDG_DATA_HOME", home.empty() ? home : home + "/.local/share"));
     const std::string system = VariableOr("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
     for (std::string_view rest = system; !rest.empty();) {

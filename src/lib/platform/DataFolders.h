@@ -4,7 +4,7 @@
 #include <vector>
 
 /// The user's home, from the environment or the system's list of users; empty without any.
-std::string HomeFolder();
+std::string HomeOfUser();
 
 /// The folders of data as the desktop names them, without a slash at the end: the user's (`$XDG_DATA_HOME`,
 /// by default

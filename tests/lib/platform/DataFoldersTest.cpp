@@ -21,7 +21,7 @@ TEST(DataFolders, AreTheUsersTheSystemsAndTheProgramsOwn)
     const Environment home("HOME", "/home/ada");
     const Environment user("XDG_DATA_HOME", nullptr);
     const Environment system("XDG_DATA_DIRS", "");
-    EXPECT_EQ("/home/ada", HomeFolder());
+    EXPECT_EQ("/home/ada", HomeOfUser());
     EXPECT_EQ((Folders{"/home/ada/.local/share", "/usr/local/share", "/usr/share", OwnShare()}),
               DataFolders());
 }
@@ -38,7 +38,7 @@ TEST(DataFolders, FollowTheEnvironmentAndSkipWhatIsRelativeOrStandsTwice)
 TEST(DataFolders, AHomeThatIsNoneIsLookedUp)
 {
     const Environment home("HOME", "nonsense");
-    EXPECT_TRUE(HomeFolder().empty() || HomeFolder().front() == '/') << HomeFolder();
+    EXPECT_TRUE(HomeOfUser().empty() || HomeOfUser().front() == '/') << HomeOfUser();
 }
 
 } // namespace
