@@ -12,19 +12,19 @@ struct NamedValue {
     Value value;
 };
 
-constexpr NamedValue kValues[] = {{"", Value::kNone},
-                                  {"FILE", Value::kFile},
-                                  {"NAME", Value::kName},
-                                  {"KEY=VALUE", Value::kKey},
-                                  {"KEY=FROM:TO:COUNT", Value::kKey}};
+constexpr NamedValue kValueNames[] = {{"", Value::kNone},
+                                      {"FILE", Value::kFile},
+                                      {"NAME", Value::kName},
+                                      {"KEY=VALUE", Value::kKey},
+                                      {"KEY=FROM:TO:COUNT", Value::kKey}};
 
 Value ValueOf(const OptionWords& option)
 {
     if (!option.choices.empty()) {
         return Value::kChoice;
     }
-    const auto* const found = std::ranges::find(kValues, option.value, &NamedValue::name);
-    return found == std::end(kValues) ? Value::kAny : found->value;
+    const auto* const found = std::ranges::find(kValueNames, option.value, &NamedValue::name);
+    return found == std::end(kValueNames) ? Value::kAny : found->value;
 }
 
 /// A command that prints the words which may stand there. The program itself tells the names of its numbers;

@@ -4,13 +4,13 @@
 
 namespace {
 
-constexpr Bilingual kManual{"User Commands", "Benutzerbefehle"};
-constexpr Bilingual kName{"NAME", "NAME"};
-constexpr Bilingual kSynopsis{"SYNOPSIS", "ÜBERSICHT"_cp1252};
-constexpr Bilingual kDescription{"DESCRIPTION", "BESCHREIBUNG"};
-constexpr Bilingual kVerbs{"VERBS", "BEFEHLE"};
-constexpr Bilingual kOptions{"OPTIONS", "OPTIONEN"};
-constexpr Bilingual kSeeAlso{"SEE ALSO", "SIEHE AUCH"};
+constexpr Bilingual kManualName{"User Commands", "Benutzerbefehle"};
+constexpr Bilingual kNameTitle{"NAME", "NAME"};
+constexpr Bilingual kSynopsisTitle{"SYNOPSIS", "ÜBERSICHT"_cp1252};
+constexpr Bilingual kDescriptionTitle{"DESCRIPTION", "BESCHREIBUNG"};
+constexpr Bilingual kVerbsTitle{"VERBS", "BEFEHLE"};
+constexpr Bilingual kOptionsTitle{"OPTIONS", "OPTIONEN"};
+constexpr Bilingual kSeeAlsoTitle{"SEE ALSO", "SIEHE AUCH"};
 constexpr Bilingual kSeeManual{"The manual opens by F1 in the workbench.",
                                "Das Handbuch öffnet sich mit F1 in der Werkbank."_cp1252};
 
@@ -42,7 +42,7 @@ void AppendSection(std::string& page, const Bilingual& heading, int language)
     page += std::string(".SH ") + heading.In(language) + '\n';
 }
 
-void AppendParagraphs(std::string& page, std::string_view text)
+void AppendRoffParagraphs(std::string& page, std::string_view text)
 {
     std::string_view between;
     for (const std::string_view paragraph : ParagraphsOf(text)) {
@@ -55,7 +55,7 @@ void AppendParagraphs(std::string& page, std::string_view text)
 void AppendItem(std::string& page, std::string_view word, std::string_view behind, std::string_view text)
 {
     page += ".TP\n\\fB" + Roff(word) + "\\fR" + (behind.empty() ? "" : ' ' + Roff(behind)) + '\n';
-    AppendParagraphs(page, text);
+    AppendRoffParagraphs(page, text);
 }
 
 } // namespace
@@ -63,28 +63,28 @@ void AppendItem(std::string& page, std::string_view word, std::string_view behin
 std::string ManPage(const ProgramWords& program, std::string_view version, int language)
 {
     std::string page = ".TH \"" + Roff(program.name) + "\" 1 \"\" \"Orreva " + std::string(version) +
-                       "\" \"" + kManual.In(language) + "\"\n";
-    AppendSection(page, kName, language);
+                       "\" \"" + kManualName.In(language) + "\"\n";
+    AppendSection(page, kNameTitle, language);
     page += Roff(program.name) + " \\- " + Roff(program.purpose.In(language)) + '\n';
-    AppendSection(page, kSynopsis, language);
+    AppendSection(page, kSynopsisTitle, language);
     page += "\\fB" + Roff(program.name) + "\\fR " + Roff(program.synopsis) + '\n';
-    AppendSection(page, kDescription, language);
-    AppendParagraphs(page, program.description.In(language));
+    AppendSection(page, kDescriptionTitle, language);
+    AppendRoffParagraphs(page, program.description.In(language));
     if (!program.verbs.empty()) {
-        AppendSection(page, kVerbs, language);
+        AppendSection(page, kVerbsTitle, language);
     }
     for (const VerbWords& verb : program.verbs) {
         AppendItem(page, verb.name, verb.synopsis, verb.text.In(language));
     }
-    AppendSection(page, kOptions, language);
+    AppendSection(page, kOptionsTitle, language);
     for (const OptionWords& option : program.options) {
         AppendItem(page, option.name, option.value, OptionSentence(option, language));
     }
     for (const Passage& passage : program.passages) {
         AppendSection(page, passage.heading, language);
-        AppendParagraphs(page, passage.text.In(language));
+        AppendRoffParagraphs(page, passage.text.In(language));
     }
-    AppendSection(page, kSeeAlso, language);
+    AppendSection(page, kSeeAlsoTitle, language);
     page += "\\fB" + Roff(program.other) + "\\fR(1)\n.PP\n" + Roff(kSeeManual.In(language)) + '\n';
     return Utf8FromCp1252(page);
 }

@@ -34,6 +34,9 @@ TEST(EyepiecePlaces, TheFirstListThatIsThereCounts)
     folder.Write("c", "");
     EXPECT_EQ("", InstalledEyepieces(places));
     folder.Write("a", "Erfle,32,65\n");
+    folder.Write("b", "Kellner,20,45\n");
+    EXPECT_EQ(folder / "b", InstalledEyepieces(places)) << "the last, not the nearest";
+    folder.Write("b", "");
     EXPECT_EQ(folder / "a", InstalledEyepieces(places)) << "the last that has any";
 }
 
