@@ -48,9 +48,10 @@ TEST_F(MisleadingLabels, ListsAndChoicesExplainThemselves)
         }
     });
     InDialogOf(32795, [](QDialog& dialog) {
-        ExpectExplained(FindControl<QWidget>(&dialog, 1003),
-                        "Die Entfernungen sind zehnmal zu groß: Auf dem Weg zu Metern wird durch 100 geteilt statt "
-                        "durch 1000.");
+        ExpectExplained(
+            FindControl<QWidget>(&dialog, 1003),
+            "Die Entfernungen sind zehnmal zu groß: Auf dem Weg zu Metern wird durch 100 geteilt statt "
+            "durch 1000.");
     });
 }
 
@@ -68,8 +69,9 @@ TEST_F(MisleadingLabelsGerman, TheSectorsListTheFieldsLabelsAndTheVerdictExplain
     InSheet([](CMyPropertySheet0& sheet) {
         ExpectExplained(FindControl<QWidget>(&Visit(sheet, kCell), 1031),
                         "„6 Punkt Spiegelzelle“ meint die Auflage auf neun Punkten.");
-        ExpectExplained(Visit(sheet, kPrimary).findChild<QWidget*>("results"),
-                        "Die Namen neben der Auflösung sind vertauscht: 116/D ist Dawes, 138/D ist Rayleigh.");
+        ExpectExplained(
+            Visit(sheet, kPrimary).findChild<QWidget*>("results"),
+            "Die Namen neben der Auflösung sind vertauscht: 116/D ist Dawes, 138/D ist Rayleigh.");
         ExpectExplained(Visit(sheet, kEyepieces).findChild<QWidget*>("results"),
                         "Die Brennweite ist in Millimetern, was auch dahinter steht.");
     });
