@@ -1,5 +1,6 @@
 #include "app/ToolWindows.h"
 
+#include "app/ExportFile.h"
 #include "app/FieldOpener.h"
 #include "app/MyDialogBar.h"
 #include "document/EarlierDesigns.h"
@@ -110,6 +111,9 @@ void CToolWindows::OpenVariation()
 {
     if (m_variationWindow == nullptr) {
         m_variationWindow = new CVariationWindow(&m_frame);
+        connect(
+            m_variationWindow, &CVariationWindow::FileMade, this,
+            [this](const QString& path, const QByteArray& bytes) { ExportFile(m_document, path, bytes); });
         connect(m_variationWindow, &CVariationWindow::TrialWanted, this,
                 [this](const RecordField* field, double value) {
                     m_whatIfBar.TryValue(std::get<RealField>(field->field).set, value);
@@ -132,6 +136,9 @@ void CToolWindows::OpenIllumination()
     if (m_illuminationWindow == nullptr) {
         m_illuminationWindow =
             new CIlluminationWindow(LoadEyepieces(FindEyepieces().c_str()).entries, &m_frame);
+        connect(
+            m_illuminationWindow, &CIlluminationWindow::FileMade, this,
+            [this](const QString& path, const QByteArray& bytes) { ExportFile(m_document, path, bytes); });
         connect(m_illuminationWindow, &CIlluminationWindow::MinorAxisWanted, this, [this](double minorAxis) {
             m_whatIfBar.TryValue(&COrrevaData::SetSecondaryDiameter, minorAxis);
         });
@@ -186,3 +193,5 @@ void CToolWindows::FollowCheck()
         m_checkWindow->ShowFindings(findings);
     }
 }
+
+#include "moc_ToolWindows.cpp"
