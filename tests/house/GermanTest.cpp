@@ -222,14 +222,16 @@ std::vector<std::string> WithoutGerman(std::string_view declaration, int& looked
     return faults;
 }
 
-/// The declarations of constants of both languages, each from its name to its semicolon.
+/// The texts of both languages that a source declares, each from its first brace to its last.
 std::vector<std::string> Declarations(const std::string& source)
 {
-    static const std::regex kBilingual("Bilingual k[A-Za-z]+(\\[[^\\]]*\\])? ?=? ?\\{");
+    // Constants, and rows that are made where they are needed.
+    static const std::regex kBilingual("Bilingual k[A-Za-z]+(\\[[^\\]]*\\])? ?=? ?\\{|\\.Add\\(\\{");
     std::vector<std::string> declarations;
     for (const std::smatch& match : AllMatches(source, kBilingual)) {
         const auto from = static_cast<std::size_t>(match.position() + match.length() - 1);
-        declarations.push_back(source.substr(from, source.find("};", from) - from + 1));
+        const char* const end = match.str().starts_with('.') ? "}" : "};";
+        declarations.push_back(source.substr(from, source.find(end, from) - from + 1));
     }
     return declarations;
 }
@@ -261,11 +263,12 @@ TEST(German, ATextWithoutItIsFound)
     int looked = 0;
     const std::string source =
         "constexpr Bilingual kA{\"a\", \"\"};\nBilingual kB[] = {{\"b\" \"c\", \"d\"_cp1252}, "
-        "{\"e\"}};";
-    ASSERT_EQ(2u, Declarations(source).size());
+        "{\"e\"}};\nrows.Add({\"f\", \"\"}, \"x\");";
+    ASSERT_EQ(3u, Declarations(source).size());
     EXPECT_EQ((std::vector<std::string>{"a"}), WithoutGerman(Declarations(source)[0], looked));
     EXPECT_EQ((std::vector<std::string>{"e"}), WithoutGerman(Declarations(source)[1], looked));
-    EXPECT_EQ(3, looked);
+    EXPECT_EQ((std::vector<std::string>{"f"}), WithoutGerman(Declarations(source)[2], looked));
+    EXPECT_EQ(4, looked);
 }
 
 } // namespace
