@@ -14,7 +14,6 @@
 #include "drawing/SectionZoom.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Numbers.h"
-#include "model/analysis/EyepiecePlaces.h"
 
 #include <limits>
 
@@ -79,7 +78,6 @@ int Report(const CommandLine& words)
     ReportContext context = ContextOf(terminal);
     context.details = words.Has("--details");
     context.zones = zones;
-    context.eyepiece_path = FindEyepieces();
     if (format != TableFormat::kText) {
         return WriteOutput(OutputPath(words),
                            (format == TableFormat::kCsv ? CsvReport : JsonReport)(pages, context));
