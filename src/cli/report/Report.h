@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lib/text/Language.h"
+#include "model/analysis/EyepiecePlaces.h"
 #include "model/optics/FoucaultZones.h"
 #include "model/record/OrrevaData.h"
 #include "model/rows/ListRow.h"
@@ -30,7 +31,7 @@ struct ReportContext {
     int language = kEnglish;
     /// The check box Show Details.
     bool details = false;
-    const char* eyepiece_path = "eyepiece.dat";
+    std::string eyepiece_path = FindEyepieces();
     ZoneOptions zones{};
 };
 

@@ -55,7 +55,7 @@ ReportLines CellReport(const ReportContext& context)
 
 void EyepiecesReport(const ReportContext& context, const ReportSink& sink)
 {
-    const EyepieceList list = LoadEyepieces(context.eyepiece_path);
+    const EyepieceList list = LoadEyepieces(context.eyepiece_path.c_str());
     bool more = true;
     for (const std::size_t i : SortEyepieces(list.entries)) {
         ReportLines lines{ReportLine({list.entries[i].name})};
@@ -68,7 +68,7 @@ void EyepiecesReport(const ReportContext& context, const ReportSink& sink)
         }
     }
     if (list.end != EyepieceList::End::kComplete) {
-        sink(EyepieceEndLine(list, context.eyepiece_path));
+        sink(EyepieceEndLine(list, context.eyepiece_path.c_str()));
     }
 }
 
