@@ -11,7 +11,7 @@
 namespace {
 
 constexpr std::uint32_t kTelescopeVerbs =
-    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck | kFigureVerb;
+    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck | kFigureVerb | kSheetsVerb;
 constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kCompare | kRescue;
 constexpr std::uint32_t kTableVerbs = kReport | kValues | kSweep | kCompare | kCheck | kFigureVerb |
                                       kRescue; ///< those that print tables in several forms
@@ -21,11 +21,11 @@ struct VerbName {
     Verb verb;
 };
 
-constexpr VerbName kVerbs[] = {{"report", kReport},   {"rays", kRays},     {"draw", kDraw},
-                               {"save", kSaveVerb},   {"import", kImport}, {"export", kExport},
-                               {"calc", kCalc},       {"values", kValues}, {"sweep", kSweep},
-                               {"compare", kCompare}, {"check", kCheck},   {"figure", kFigureVerb},
-                               {"rescue", kRescue}};
+constexpr VerbName kVerbs[] = {{"report", kReport},   {"rays", kRays},        {"draw", kDraw},
+                               {"save", kSaveVerb},   {"import", kImport},    {"export", kExport},
+                               {"calc", kCalc},       {"values", kValues},    {"sweep", kSweep},
+                               {"compare", kCompare}, {"check", kCheck},      {"figure", kFigureVerb},
+                               {"rescue", kRescue},   {"sheets", kSheetsVerb}};
 
 struct Option {
     std::string_view name;
@@ -45,8 +45,8 @@ constexpr Option kOptions[] = {
     {"--set", true, kTelescopeVerbs},
     {"--page", true, kReport},
     {"--details", false, kReport},
-    {"--zones", true, kReport},
-    {"--centre", true, kReport},
+    {"--zones", true, kReport | kSheetsVerb},
+    {"--centre", true, kReport | kSheetsVerb},
     {"--edge", true, kReport},
     {"--template", true, kReport},
     {"--method", true, kReport},
@@ -54,6 +54,8 @@ constexpr Option kOptions[] = {
     {"--readings", true, kFigureVerb | kDraw},
     {"--conic", true, kFigureVerb | kDraw},
     {"--wavelength", true, kFigureVerb | kDraw},
+    {"--sheet", true, kSheetsVerb},
+    {"--paper", true, kReport | kSheetsVerb},
     {"--only", true, kValues},
     {"--vary", true, kSweep},
     {"--show", true, kSweep},

@@ -22,6 +22,7 @@ enum Verb : std::uint32_t {
     kCheck = 1024,
     kFigureVerb = 2048,
     kRescue = 4096,
+    kSheetsVerb = 8192,
 };
 
 /// The command line, taken apart: the verb, the words that are no options, and the options in their order.

@@ -19,7 +19,8 @@ namespace {
 
 constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a window
 
-  orreva-cli report [TELESCOPE] [--page PAGE]... [--details]
+  orreva-cli report [TELESCOPE] [--page PAGE]... [--details] [-o OUT.pdf [--paper PAPER]]
+  orreva-cli sheets [TELESCOPE] [--sheet SHEET]... [--paper PAPER] [--zones N] [--centre PERCENT] -o OUT.pdf
   orreva-cli rays   [TELESCOPE] --mode parallel|focal|pointer --pointer X,Y [--hide-lost] [--no-offset]
   orreva-cli draw   [TELESCOPE] --picture PICTURE --size WxH -o OUT.png|.svg|.pdf
   orreva-cli save   [TELESCOPE] [-o FILE]
@@ -45,6 +46,9 @@ PICTURE is section (--mode, --pointer, --zoom 1..5, --scroll X,Y, --extended, --
 summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM),
 sector (--type I --diameter MM --value V), illumination, secondary-choice or wavefront (--readings FILE, --source,
 --conic, --wavelength).
+
+sheets lays workshop sheets out in true scale: SHEET is couder-mask, everest, secondary, marks or tube, all of them
+without --sheet. Print them at 100 %. report -o OUT.pdf lays its pages out on paper. PAPER is A4, A3, Letter or Tabloid.
 
 values prints every number of the design, or each NAME, with its unit; check tells what is wrong with it, and
 compare what differs between two. sweep prints a table of designs: one to four --vary, the first running slowest.

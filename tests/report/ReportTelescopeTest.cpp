@@ -1,4 +1,4 @@
-#include "cli/report/Report.h"
+#include "report/Report.h"
 
 #include "lib/text/CodePage.h"
 

@@ -1,4 +1,4 @@
-#include "cli/report/SweepTable.h"
+#include "report/SweepTable.h"
 
 #include <algorithm>
 #include <condition_variable>

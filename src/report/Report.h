@@ -42,6 +42,7 @@ using ReportSink = std::function<bool(const std::string& line)>;
 
 struct ReportPage {
     const char* name;
+    Bilingual title; ///< on paper
     void (*write)(const ReportContext& context, const ReportSink& sink);
     bool only_when_named = false; ///< not among the pages of a report without a choice
 };
@@ -60,6 +61,9 @@ void WriteReport(std::span<const ReportPage* const> pages, const ReportContext& 
 
 /// One line of cells parted by TAB; a line break or TAB inside a cell becomes a blank.
 std::string ReportLine(const ListRow& cells);
+
+/// The cells of a line; none of them holds a TAB of its own.
+ListRow CellsOfLine(const std::string& line);
 
 /// The rows as the user reads them: the last one made stands on top.
 void AppendRows(ReportLines& lines, const ListRows& rows);

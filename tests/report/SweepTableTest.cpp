@@ -1,4 +1,4 @@
-#include "cli/report/SweepTable.h"
+#include "report/SweepTable.h"
 
 #include "support/SampleScopes.h"
 

@@ -1,4 +1,4 @@
-#include "cli/report/FigureReport.h"
+#include "report/FigureReport.h"
 
 #include "lib/text/Json.h"
 #include "lib/text/ShortestNumber.h"

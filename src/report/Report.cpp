@@ -1,4 +1,4 @@
-#include "cli/report/Report.h"
+#include "report/Report.h"
 
 #include <algorithm>
 #include <iterator>
@@ -37,6 +37,18 @@ std::string ReportLine(const ListRow& cells)
         }
     }
     return line;
+}
+
+ListRow CellsOfLine(const std::string& line)
+{
+    ListRow cells;
+    std::size_t from = 0;
+    for (std::size_t tab = line.find('\t'); tab != std::string::npos; tab = line.find('\t', from)) {
+        cells.push_back(line.substr(from, tab - from));
+        from = tab + 1;
+    }
+    cells.push_back(line.substr(from));
+    return cells;
 }
 
 void AppendRows(ReportLines& lines, const ListRows& rows)

@@ -1,4 +1,4 @@
-#include "cli/report/Report.h"
+#include "report/Report.h"
 
 #include "model/optics/CentreMarks.h"
 #include "model/optics/FieldSimulation.h"

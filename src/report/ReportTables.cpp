@@ -1,7 +1,7 @@
-#include "cli/report/Report.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Json.h"
 #include "lib/text/Table.h"
+#include "report/Report.h"
 
 #include <algorithm>
 
@@ -9,16 +9,11 @@ namespace {
 
 using Cells = std::vector<std::string>;
 
-/// The cells of a line of the report, in UTF-8; none of them holds a TAB of its own.
-Cells CellsOf(const std::string& line)
+/// The cells of a line of the report, in UTF-8.
+Cells Utf8CellsOf(const std::string& line)
 {
-    Cells cells;
-    std::size_t from = 0;
-    for (std::size_t tab = line.find('\t'); tab != std::string::npos; tab = line.find('\t', from)) {
-        cells.push_back(Utf8FromCp1252(std::string_view(line).substr(from, tab - from)));
-        from = tab + 1;
-    }
-    cells.push_back(Utf8FromCp1252(std::string_view(line).substr(from)));
+    Cells cells = CellsOfLine(line);
+    std::ranges::transform(cells, cells.begin(), Utf8FromCp1252);
     return cells;
 }
 
@@ -26,7 +21,7 @@ std::vector<Cells> RowsOf(const ReportPage& page, const ReportContext& context)
 {
     std::vector<Cells> rows;
     page.write(context, [&rows](const std::string& line) {
-        rows.push_back(CellsOf(line));
+        rows.push_back(Utf8CellsOf(line));
         return true;
     });
     return rows;
