@@ -32,7 +32,7 @@ public:
                              Colour colour) override;
 
 private:
-    bool IsPaper() const { return !m_isRaster && m_vectorPen > 1; }
+    bool IsPaper() const { return m_vectorPen > 1; }
     double Farthest() const;
     PixelRect Clip() const { return {0, 0, m_width, m_height}; }
     void PaintRuns(Colour colour);

@@ -4,12 +4,16 @@
 #include "painting/QtText.h"
 
 #include <QBuffer>
+#include <QLocale>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <algorithm>
+
 namespace {
 
+constexpr double kMmPerInch = 25.4;
 constexpr int kUnitsPerInch = 2540;
 constexpr std::int32_t kPenWidth = 20; // a fifth of a millimetre, for what is one unit wide
 
@@ -23,17 +27,29 @@ QPageLayout LayoutOf(const PaperPage& page)
     return layout;
 }
 
-void PaintPage(QPainter& painter, QPaintDevice& device, const PaperPage& page)
+constexpr QLocale::Territory kLetterTerritories[] = {
+    QLocale::Belize,     QLocale::Canada,     QLocale::Chile,        QLocale::Colombia, QLocale::CostaRica,
+    QLocale::Guatemala,  QLocale::Mexico,     QLocale::Nicaragua,    QLocale::Panama,   QLocale::Philippines,
+    QLocale::PuertoRico, QLocale::ElSalvador, QLocale::UnitedStates, QLocale::Venezuela};
+
+} // namespace
+
+const PaperSize& PaperOfLocale(const QLocale& locale)
+{
+    // The toolkit's locale without any language, C, has no territory.
+    const bool letter =
+        locale.language() != QLocale::C && std::ranges::count(kLetterTerritories, locale.territory()) > 0;
+    return *FindPaper(letter ? "Letter" : "A4");
+}
+
+void PaintPaperPage(QPainter& painter, const PaperPage& page, double scale)
 {
     painter.save();
-    painter.scale(static_cast<double>(device.logicalDpiX()) / kUnitsPerInch,
-                  static_cast<double>(device.logicalDpiY()) / kUnitsPerInch);
+    painter.scale(scale / kUnitsPerMm, scale / kUnitsPerMm);
     PainterSurface surface(painter, PaperUnits(page.width), PaperUnits(page.height), kPenWidth);
     page.paint(surface);
     painter.restore();
 }
-
-} // namespace
 
 bool PaintPaper(QPagedPaintDevice& device, const PaperDocument& document)
 {
@@ -43,7 +59,7 @@ bool PaintPaper(QPagedPaintDevice& device, const PaperDocument& document)
         if (painter.isActive() ? !device.newPage() : !painter.begin(&device)) {
             return false;
         }
-        PaintPage(painter, device, page);
+        PaintPaperPage(painter, page, device.logicalDpiX() / kMmPerInch);
     }
     return painter.isActive() && painter.end();
 }
