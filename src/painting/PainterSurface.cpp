@@ -73,24 +73,24 @@ AngleSpan AngleSpanOf(const QRectF& box, Pixel from, Pixel to)
     return {start, length};
 }
 
-/// The stretch of an outline in short curves: the toolkit's own, a quarter long, leave a circle of 400 mm by
-/// a tenth of a millimetre.
-QPainterPath FinePath(const QRectF& box, double start, double length)
+/// The stretch of an outline in short curves, parted at whole angles, so that the outermost points are among
+/// their ends: the toolkit's own, a quarter long, leave a circle of 400 mm by a tenth of a millimetre.
+QPainterPath FinePath(const QRectF& box, const AngleSpan& stretch)
 {
-    constexpr double kLongest = 16; // degrees of a curve
+    constexpr double kPart = 15 * kDegree;
     const double turn = std::acos(-1.0) / 180 / kDegree;
-    const int pieces = std::max(1, static_cast<int>(std::ceil(length / kDegree / kLongest)));
-    const double step = length * turn / pieces;
-    const double reach = 4.0 / 3 * std::tan(step / 4);
     const QPointF centre = box.center();
     const auto at = [&](double angle, double along) {
         return QPointF(centre.x() + box.width() / 2 * (std::cos(angle) - along * std::sin(angle)),
                        centre.y() - box.height() / 2 * (std::sin(angle) + along * std::cos(angle)));
     };
-    QPainterPath path(at(start * turn, 0));
-    for (int i = 0; i < pieces; ++i) {
-        const double from = start * turn + i * step;
-        path.cubicTo(at(from, reach), at(from + step, -reach), at(from + step, 0));
+    const double end = stretch.start + stretch.length;
+    QPainterPath path(at(stretch.start * turn, 0));
+    for (double from = stretch.start; from < end;) {
+        const double to = std::min((std::floor(from / kPart) + 1) * kPart, end);
+        const double reach = 4.0 / 3 * std::tan((to - from) * turn / 4);
+        path.cubicTo(at(from * turn, reach), at(to * turn, -reach), at(to * turn, 0));
+        from = to;
     }
     return path;
 }
@@ -210,7 +210,7 @@ void PainterSurface::Ellipse(const PixelRect& box, Colour pen, std::int32_t penW
     m_painter.setBrush(Qt::NoBrush);
     const QRectF outline = OutlineBox(box, Farthest());
     if (IsPaper()) {
-        m_painter.drawPath(FinePath(outline, 0, kFullTurn));
+        m_painter.drawPath(FinePath(outline, {0, kFullTurn}));
     } else {
         m_painter.drawEllipse(outline);
     }
@@ -227,7 +227,7 @@ void PainterSurface::Arc(const PixelRect& box, Pixel from, Pixel to, Colour pen)
                           TruncToInt32(std::round(stretch.length)));
         return;
     }
-    m_painter.drawPath(FinePath(outline, stretch.start, stretch.length));
+    m_painter.drawPath(FinePath(outline, stretch));
 }
 
 void PainterSurface::Chord(const PixelRect& box, Pixel from, Pixel to, Colour pen, Colour brush)

@@ -14,8 +14,8 @@ void OnePage(const ReportContext&, const ReportSink& sink)
 }
 void EmptyPage(const ReportContext&, const ReportSink&) {}
 
-constexpr ReportPage kOne{"one", OnePage};
-constexpr ReportPage kEmpty{"empty", EmptyPage};
+constexpr ReportPage kOne{"one", {"One", "Eins"}, OnePage};
+constexpr ReportPage kEmpty{"empty", {"Empty", "Leer"}, EmptyPage};
 
 class ReportTables : public testing::Test {
 protected:

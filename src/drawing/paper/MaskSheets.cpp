@@ -1,6 +1,7 @@
 #include "drawing/paper/SheetParts.h"
 #include "drawing/paper/TextWidth.h"
 #include "lib/text/CodePage.h"
+#include "model/optics/CouderMask.h"
 
 #include <algorithm>
 #include <cmath>

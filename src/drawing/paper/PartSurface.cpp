@@ -1,6 +1,7 @@
 #include "drawing/paper/PartSurface.h"
 
 #include "drawing/ClipSegment.h"
+#include "drawing/paper/TextWidth.h"
 #include "lib/text/Numbers.h"
 
 #include <algorithm>
@@ -159,7 +160,8 @@ void PartSurface::Text(Pixel at, std::string_view text, const Font& font, Colour
 {
     const Pixel corner = Corner(at);
     if (IsInside({corner.x, corner.y, corner.x, corner.y})) {
-        m_page.Text(corner, text, Scaled(font), colour);
+        const std::int32_t room = font.upright ? corner.y - m_place.top : m_place.right - corner.x;
+        m_page.Text(corner, CutToWidth(text, Scaled(font), room), Scaled(font), colour);
     }
 }
 

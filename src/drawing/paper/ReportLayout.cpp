@@ -31,7 +31,6 @@ constexpr double kHeadingGap = 2;
 constexpr double kPartGap = 6;
 constexpr double kColumnGap = 4;
 constexpr double kGroupGap = 8;
-constexpr double kNarrowest = 15; // of a column that has to give way
 
 constexpr std::size_t kLongestCell = 400;         // characters
 constexpr std::size_t kLongestDescription = 8000; // likewise
@@ -64,7 +63,7 @@ std::string Tamed(std::string_view text, std::size_t longest, bool keepLines)
 {
     std::string tamed(text.substr(0, longest));
     if (text.size() > longest) {
-        tamed += '\x85';
+        tamed += "…"_cp1252;
     }
     for (char& c : tamed) {
         const bool line = keepLines && (c == '\n' || c == '\r');
@@ -147,17 +146,19 @@ double TotalOf(const std::vector<double>& columns)
     return std::accumulate(columns.begin(), columns.end(), gaps);
 }
 
-/// Takes what is too much from the widest column, again and again.
+/// Makes the widest columns narrower, as far as they are wider than their share of the room.
 void FitColumns(std::vector<double>& columns, double room)
 {
-    for (std::size_t i = 0; i < 4 * columns.size() && TotalOf(columns) > room; ++i) {
-        const auto widest = std::ranges::max_element(columns);
-        double next = kNarrowest;
-        for (const double& width : columns) {
-            next = &width == &*widest ? next : std::max(next, width);
-        }
-        const double excess = TotalOf(columns) - room;
-        *widest = std::max({*widest - excess, std::min(next, *widest - 1), kNarrowest});
+    std::vector<double*> byWidth;
+    for (double& width : columns) {
+        byWidth.push_back(&width);
+    }
+    std::ranges::sort(byWidth, {}, [](const double* width) { return *width; });
+    double left = room - TotalOf(std::vector<double>(columns.size()));
+    for (std::size_t i = 0; i < byWidth.size(); ++i) {
+        const double share = std::max(left / static_cast<double>(byWidth.size() - i), 1.0);
+        *byWidth[i] = std::min(*byWidth[i], share);
+        left -= *byWidth[i];
     }
 }
 
@@ -184,7 +185,7 @@ LaidTable LayTable(const ReportTable& source, double room, int language)
         rows.push_back(source.columns);
     }
     for (const auto& cells : source.rows) {
-        if (rows.size() > kMostTableRows) {
+        if (rows.size() >= kMostTableRows) {
             rows.push_back({kMoreRows.In(language)});
             break;
         }
@@ -300,7 +301,7 @@ private:
         lines = LinesIn(Tamed(m_report.description, kLongestDescription, true), PaperFont(kRowText), m_width);
         if (lines.size() > kMostDescriptionLines) {
             lines.resize(kMostDescriptionLines);
-            lines.back() = "\x85";
+            lines.back() = "…"_cp1252;
         }
         AddLines(lines, kRowText, PaperFont(kRowText));
         m_y += kPartGap / 2;
@@ -339,7 +340,7 @@ private:
         }
         std::string heading = source.heading;
         for (std::size_t next = 0; next < table.rows.size();) {
-            if (!Reserve(HeadingHeight(heading) + HeightOf(table.rows, next, next + kRowsTogether))) {
+            if (!Reserve(HeadingHeight(heading) + HeightOf(table.rows, next, EndOfFirst(table, next)))) {
                 return;
             }
             AddHeading(heading);
@@ -350,6 +351,16 @@ private:
             }
         }
         m_y += kPartGap;
+    }
+
+    /// Behind the rows that stand below a heading in any case.
+    static std::size_t EndOfFirst(const LaidTable& table, std::size_t first)
+    {
+        std::size_t end = std::min(first + kRowsTogether, table.rows.size());
+        while (end < table.rows.size() && table.rows[end - 1].stays) {
+            ++end;
+        }
+        return end;
     }
 
     /// As many rows as find room, group beside group; the first that does not.

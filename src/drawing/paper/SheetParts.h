@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drawing/paper/SheetDrawing.h"
-#include "drawing/paper/Sheets.h"
+#include "drawing/paper/SheetPages.h"
 #include "model/record/OrrevaData.h"
 
 #include <optional>

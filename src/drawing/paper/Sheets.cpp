@@ -63,6 +63,6 @@ SheetPages MakeSheet(SheetKind kind, COrrevaData& record, const SheetZones& zone
         return {{}, *fault};
     }
     const auto sheet = std::ranges::find(kSheets, kind, &SheetName::kind);
-    const std::string name = std::string(sheet->word) + " \x96 " + sheet->name.In(language);
+    const std::string name = std::string(sheet->word) + " – "_cp1252 + sheet->name.In(language);
     return TileSheet(std::get<SheetContent>(result), {record.GetTitle().GetText(), name, language}, paper);
 }

@@ -1,5 +1,7 @@
 #include "drawing/paper/TextWidth.h"
 
+#include "lib/text/CodePage.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -41,7 +43,7 @@ constexpr std::uint16_t kBoldAdvances[kAdvances] = {
     1251, 1251, 1251, 1251, 1251, 1251, 1251, 1124, 1251, 1251, 1251, 1251, 1251, 1139, 1251, 1139};
 // clang-format on
 
-constexpr char kEllipsis = '\x85';
+constexpr const char* kEllipsis = "…"_cp1252;
 
 } // namespace
 
@@ -61,7 +63,7 @@ std::string CutToWidth(std::string_view text, const Font& font, double width)
     if (TextWidth(text, font) <= width) {
         return std::string(text);
     }
-    const double room = width - TextWidth({&kEllipsis, 1}, font);
+    const double room = width - TextWidth(kEllipsis, font);
     double used = 0;
     std::size_t kept = 0;
     while (kept < text.size()) {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr Bilingual kNoTube{"the tube has no measures", "der Tubus hat keine Maße"_cp1252};
 
-constexpr Bilingual kHole{"focuser hole \xD8 %0.1f", "Bohrung Focuser \xD8 %0.1f"};
+constexpr Bilingual kHole{"focuser hole Ø %0.1f"_cp1252, "Bohrung Focuser Ø %0.1f"_cp1252};
 constexpr Bilingual kFrontToHole{"front to focuser %0.1f", "Vorderkante bis Focuser %0.1f"};
 constexpr Bilingual kHoleToMirror{"focuser to primary %0.1f", "Focuser bis Hauptspiegel %0.1f"};
 constexpr Bilingual kThickness{"primary's thickness %0.1f", "Dicke des Hauptspiegels %0.1f"};
@@ -20,11 +20,11 @@ constexpr Bilingual kCage{"upper cage %0.1f", "Hut %0.1f"};
 constexpr Bilingual kBetween{"gap %0.1f", "Abstand %0.1f"};
 constexpr Bilingual kMirrorBox{"mirror box %0.1f", "Spiegelbox %0.1f"};
 constexpr Bilingual kLength{"length %0.1f", "Länge %0.1f"_cp1252};
-constexpr Bilingual kInside{"inside \xD8 %0.1f", "innen \xD8 %0.1f"};
-constexpr Bilingual kOutside{"outside \xD8 %0.1f", "außen \xD8 %0.1f"_cp1252};
-constexpr Bilingual kBoxInside{"box inside \xD8 %0.1f", "Box innen \xD8 %0.1f"};
-constexpr Bilingual kBoxOutside{"box outside \xD8 %0.1f", "Box außen \xD8 %0.1f"_cp1252};
-constexpr Bilingual kMirrorAcross{"primary \xD8 %0.1f", "Hauptspiegel \xD8 %0.1f"};
+constexpr Bilingual kInside{"inside Ø %0.1f"_cp1252, "innen Ø %0.1f"_cp1252};
+constexpr Bilingual kOutside{"outside Ø %0.1f"_cp1252, "außen Ø %0.1f"_cp1252};
+constexpr Bilingual kBoxInside{"box inside Ø %0.1f"_cp1252, "Box innen Ø %0.1f"_cp1252};
+constexpr Bilingual kBoxOutside{"box outside Ø %0.1f"_cp1252, "Box außen Ø %0.1f"_cp1252};
+constexpr Bilingual kMirrorAcross{"primary Ø %0.1f"_cp1252, "Hauptspiegel Ø %0.1f"_cp1252};
 
 constexpr double kRow = 6;         // distance of the lines of measures, mm of paper
 constexpr double kMeasureText = 3; // height of their texts
