@@ -69,3 +69,5 @@ bool FieldHabits::eventFilter(QObject* watched, QEvent* event)
     }
     return QObject::eventFilter(watched, event);
 }
+
+#include "moc_FieldHabits.cpp"

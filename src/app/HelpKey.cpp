@@ -21,3 +21,5 @@ bool HelpKey::eventFilter(QObject* watched, QEvent* event)
     }
     return QObject::eventFilter(watched, event);
 }
+
+#include "moc_HelpKey.cpp"

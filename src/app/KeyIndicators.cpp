@@ -57,3 +57,5 @@ void KeyIndicators::Follow(int key, unsigned modifiers)
         field.label->setEnabled(field.on);
     }
 }
+
+#include "moc_KeyIndicators.cpp"

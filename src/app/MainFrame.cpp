@@ -331,3 +331,5 @@ void CMainFrame::closeEvent(QCloseEvent* event)
     m_closing = false;
     event->accept();
 }
+
+#include "moc_MainFrame.cpp"

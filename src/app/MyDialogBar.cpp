@@ -84,3 +84,5 @@ void CMyDialogBar::Show(const std::optional<SliderState>& state)
     Follow();
     emit Changed();
 }
+
+#include "moc_MyDialogBar.cpp"

@@ -75,3 +75,5 @@ QIcon CProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* optio
         return QProxyStyle::standardIcon(icon, option, widget);
     }
 }
+
+#include "moc_ProgramStyle.cpp"

@@ -1,5 +1,6 @@
 #include "app/QtHost.h"
 
+#include "app/ExportFile.h"
 #include "app/MainFrame.h"
 #include "app/Modals.h"
 #include "document/FileMasks.h"
@@ -255,6 +256,9 @@ void CQtHost::ShowIllumination(const IlluminationStops& stops, double wanted)
     if (m_illumination == nullptr || m_illumination->parentWidget() != owner) {
         delete m_illumination;
         m_illumination = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").entries, owner);
+        QObject::connect(
+            m_illumination, &CIlluminationWindow::FileMade, m_illumination,
+            [this](const QString& path, const QByteArray& bytes) { ExportFile(*m_document, path, bytes); });
     }
     const QString title =
         m_document == nullptr ? QString() : ToQString(m_document->active_record->GetTitle().GetText());

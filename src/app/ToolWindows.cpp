@@ -1,5 +1,6 @@
 #include "app/ToolWindows.h"
 
+#include "app/ExportFile.h"
 #include "app/FieldOpener.h"
 #include "app/MyDialogBar.h"
 #include "document/EarlierDesigns.h"
@@ -109,6 +110,9 @@ void CToolWindows::OpenVariation()
 {
     if (m_variationWindow == nullptr) {
         m_variationWindow = new CVariationWindow(&m_frame);
+        connect(
+            m_variationWindow, &CVariationWindow::FileMade, this,
+            [this](const QString& path, const QByteArray& bytes) { ExportFile(m_document, path, bytes); });
         connect(m_variationWindow, &CVariationWindow::TrialWanted, this,
                 [this](const RecordField* field, double value) {
                     m_whatIfBar.TryValue(std::get<RealField>(field->field).set, value);
@@ -130,6 +134,9 @@ void CToolWindows::OpenIllumination()
 {
     if (m_illuminationWindow == nullptr) {
         m_illuminationWindow = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").entries, &m_frame);
+        connect(
+            m_illuminationWindow, &CIlluminationWindow::FileMade, this,
+            [this](const QString& path, const QByteArray& bytes) { ExportFile(m_document, path, bytes); });
         connect(m_illuminationWindow, &CIlluminationWindow::MinorAxisWanted, this, [this](double minorAxis) {
             m_whatIfBar.TryValue(&COrrevaData::SetSecondaryDiameter, minorAxis);
         });
@@ -184,3 +191,5 @@ void CToolWindows::FollowCheck()
         m_checkWindow->ShowFindings(findings);
     }
 }
+
+#include "moc_ToolWindows.cpp"

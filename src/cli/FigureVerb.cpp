@@ -6,8 +6,10 @@
 #include "cli/VerbTools.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Language.h"
-#include "model/optics/Readings.h"
+#include "model/optics/ReadingSeries.h"
 #include "report/FigureReport.h"
+
+#include <vector>
 
 namespace {
 
@@ -22,6 +24,55 @@ double FigureNumberWord(const CommandLine& words, const char* option, double oth
         UsageError(std::string(option) + " does not take", *word);
     }
     return *value;
+}
+
+/// The text of the readings, if the mirror has what a reduction needs.
+std::optional<std::string> ReadReadings(const FigureWords& words, COrrevaData& record)
+{
+    if (!(record.GetMirrorDiameter() > 0) || !(record.GetFocalLength() > 0)) {
+        Fail("the mirror has no diameter or no focal length");
+        return std::nullopt;
+    }
+    return ReadInputWord(words.readings);
+}
+
+bool IsWithoutFault(const FigureWords& words, const std::optional<ReadingsFault>& fault)
+{
+    if (fault) {
+        Fail(words.readings + ": " + Utf8FromCp1252(FaultText(*fault, g_nLanguage)));
+    }
+    return !fault;
+}
+
+std::optional<Figure> FigureOf(const FigureWords& words, std::string_view text, COrrevaData& record)
+{
+    const double D = record.GetMirrorDiameter();
+    const ReadingsParse parse = ParseReadings(text, D / 2);
+    if (!IsWithoutFault(words, parse.fault)) {
+        return std::nullopt;
+    }
+    return ReduceFigure(D, record.GetFocalLength(), MeansOf(parse.zones), words.settings);
+}
+
+/// A file that is kept beside a design may hold several series: each is read as a file of its own.
+std::optional<std::vector<SeriesFigure>> FiguresOfSeries(const FigureWords& words, std::string_view text,
+                                                         COrrevaData& record)
+{
+    const double D = record.GetMirrorDiameter();
+    const SeriesImport import = ImportSeries(text, D / 2, "");
+    if (!IsWithoutFault(words, import.fault)) {
+        return std::nullopt;
+    }
+    std::vector<SeriesFigure> figures;
+    for (const ReadingSeries& series : import.series) {
+        const std::vector<ZoneMean> zones = ReadSeries(series, D / 2).zones;
+        const auto figure = ReduceFigure(D, record.GetFocalLength(), zones, words.settings);
+        if (!figure) {
+            return std::nullopt;
+        }
+        figures.push_back({Utf8FromCp1252(series.name), *figure});
+    }
+    return figures;
 }
 
 } // namespace
@@ -47,22 +98,8 @@ FigureWords FigureWordsOf(const CommandLine& words)
 
 std::optional<Figure> ReadFigure(const FigureWords& words, COrrevaData& record)
 {
-    const double D = record.GetMirrorDiameter();
-    const double f = record.GetFocalLength();
-    if (!(D > 0) || !(f > 0)) {
-        Fail("the mirror has no diameter or no focal length");
-        return std::nullopt;
-    }
-    const auto text = ReadInputWord(words.readings);
-    if (!text) {
-        return std::nullopt;
-    }
-    const ReadingsParse parse = ParseReadings(*text, D / 2);
-    if (parse.fault) {
-        Fail(words.readings + ": " + Utf8FromCp1252(FaultText(*parse.fault, g_nLanguage)));
-        return std::nullopt;
-    }
-    return ReduceFigure(D, f, MeansOf(parse.zones), words.settings);
+    const auto text = ReadReadings(words, record);
+    return text ? FigureOf(words, *text, record) : std::nullopt;
 }
 
 int FigureVerb(const CommandLine& words)
@@ -76,9 +113,15 @@ int FigureVerb(const CommandLine& words)
     }
     terminal.document.Recalculate(); // so that no first reading shows
     COrrevaData& record = *terminal.document.active_record;
-    const std::optional<Figure> figure = ReadFigure(figureWords, record);
-    if (!figure) {
+    const auto text = ReadReadings(figureWords, record);
+    if (!text) {
         return kFailed;
     }
-    return WriteOutput(OutputPath(words), FigureReport(*figure, record.GetMirrorDiameter(), format));
+    const double D = record.GetMirrorDiameter();
+    if (SeriesCount(*text) > 1) {
+        const auto figures = FiguresOfSeries(figureWords, *text, record);
+        return figures ? WriteOutput(OutputPath(words), SeriesFiguresReport(*figures, D, format)) : kFailed;
+    }
+    const auto figure = FigureOf(figureWords, *text, record);
+    return figure ? WriteOutput(OutputPath(words), FigureReport(*figure, D, format)) : kFailed;
 }

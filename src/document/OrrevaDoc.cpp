@@ -532,12 +532,12 @@ bool COrrevaDoc::WriteFile(StatusTopic topic, const std::string& path, std::stri
 
 void COrrevaDoc::TellSave(StatusTopic topic)
 {
+    TellCopies(); // first, so that the word of the save itself is the newest
     if (m_files.LastOutcome()) {
         m_status.Succeed(topic, m_files.LastText(g_nLanguage));
     } else {
         m_status.Fail(topic, m_files.LastText(g_nLanguage));
     }
-    TellCopies();
     ShowStatus();
 }
 

@@ -5,30 +5,32 @@
 void StatusLine::BeginCommand()
 {
     m_said.clear();
-    m_failures.erase(StatusTopic::RescueCopies);
+    Forget(StatusTopic::RescueCopies);
 }
 
 void StatusLine::Succeed(StatusTopic topic, std::string text)
 {
-    m_failures.erase(topic);
+    Forget(topic);
     m_said = std::move(text);
 }
 
 void StatusLine::Fail(StatusTopic topic, std::string text)
 {
-    m_failures[topic] = std::move(text);
+    Forget(topic);
+    m_failures.insert(m_failures.begin(), {topic, std::move(text)});
     m_said.clear();
+}
+
+void StatusLine::Forget(StatusTopic topic)
+{
+    std::erase_if(m_failures, [topic](const Failure& failure) { return failure.topic == topic; });
 }
 
 std::string StatusLine::Text() const
 {
-    std::string text;
-    const auto add = [&text](const std::string& piece) {
-        text += text.empty() || piece.empty() ? piece : "  |  " + piece;
-    };
-    for (const auto& [topic, failure] : m_failures) {
-        add(failure);
+    std::string text = m_said;
+    for (const Failure& failure : m_failures) {
+        text += (text.empty() || failure.text.empty() ? "" : "  |  ") + failure.text;
     }
-    add(m_said);
     return text;
 }

@@ -1,15 +1,15 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <string>
+#include <vector>
 
 /// What can fail and is told in the status bar.
 enum class StatusTopic : std::uint8_t { Save, Export, Print, Language, RescueCopies };
 
 /// The message of the status bar, code page 1252: what the last command did, until the next one, and what
-/// failed, until it succeeds. That copies cannot be kept is told
-/// until the next command.
+/// failed, until it succeeds. That copies cannot be kept is told until the next command. The newest stands
+/// first, where a narrow window still shows it.
 class StatusLine {
 public:
     void BeginCommand();
@@ -17,10 +17,16 @@ public:
     void Succeed(StatusTopic topic, std::string text);
     void Fail(StatusTopic topic, std::string text);
 
-    /// The failures, then what was said.
     std::string Text() const;
 
 private:
-    std::map<StatusTopic, std::string> m_failures;
+    struct Failure {
+        StatusTopic topic;
+        std::string text;
+    };
+
+    void Forget(StatusTopic topic);
+
+    std::vector<Failure> m_failures; ///< the newest first
     std::string m_said;
 };

@@ -2,34 +2,50 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace {
 
 constexpr std::size_t kGrid = kRonchiSteps;
 
-/// Draws of a generator of Lehmer's kind, several steps at once: the columns and the rows of the throws are
-/// the draws in turn, and each of the two goes its own way by the square of the multiplier.
-class EverySecondDraw {
+constexpr std::uint64_t kModulus = RonchiGenerator::modulus;
+static_assert(kModulus == 0x7FFFFFFF && RonchiGenerator::increment == 0);
+
+/// The remainder by 2^31 - 1: the digits of that base are added.
+constexpr std::uint64_t Reduce(std::uint64_t product)
+{
+    const std::uint64_t sum = (product & kModulus) + (product >> 31);
+    const std::uint64_t folded = (sum & kModulus) + (sum >> 31);
+    return folded >= kModulus ? folded - kModulus : folded;
+}
+
+constexpr std::uint64_t PowerOfMultiplier(std::size_t exponent)
+{
+    return exponent == 0 ? 1 : Reduce(PowerOfMultiplier(exponent - 1) * RonchiGenerator::multiplier);
+}
+
+/// Draws of a generator of Lehmer's kind, so many at once: each goes its own way to its place in the next
+/// batch, by a power of the multiplier, and none waits for the one before it.
+class DrawsInBatches {
 public:
-    explicit EverySecondDraw(std::uint64_t first) : m_draw(first) {}
-    std::uint64_t Draw() const { return m_draw; }
-    void Step() { m_draw = Reduce(m_draw * kStep); }
+    static constexpr std::size_t kBatch = 8;
 
-private:
-    static constexpr std::uint64_t kModulus = RonchiGenerator::modulus;
-    static constexpr std::uint64_t kStep =
-        RonchiGenerator::multiplier * RonchiGenerator::multiplier % kModulus;
-    static_assert(kModulus == 0x7FFFFFFF && RonchiGenerator::increment == 0);
-
-    /// The remainder by 2^31 - 1: the digits of that base are added.
-    static std::uint64_t Reduce(std::uint64_t product)
+    explicit DrawsInBatches(RonchiGenerator& generator)
     {
-        const std::uint64_t sum = (product & kModulus) + (product >> 31);
-        const std::uint64_t folded = (sum & kModulus) + (sum >> 31);
-        return folded >= kModulus ? folded - kModulus : folded;
+        std::ranges::generate(m_draws, std::ref(generator));
+    }
+    const std::array<std::uint64_t, kBatch>& Draws() const { return m_draws; }
+    void Step()
+    {
+        for (std::uint64_t& draw : m_draws) {
+            draw = Reduce(draw * kStep);
+        }
     }
 
-    std::uint64_t m_draw;
+private:
+    static constexpr std::uint64_t kStep = PowerOfMultiplier(kBatch);
+
+    std::array<std::uint64_t, kBatch> m_draws;
 };
 
 /// Whether TruncToInt32(value) is even, without a branch.
@@ -46,16 +62,21 @@ std::uint8_t IsEvenWhole(double value)
 
 RonchiPlaces ThrowRonchiDots(RonchiGenerator& generator)
 {
+    static_assert(2 * kRonchiThrows % DrawsInBatches::kBatch == 0);
+    constexpr std::size_t kBatches = 2 * kRonchiThrows / DrawsInBatches::kBatch;
+
     RonchiPlaces thrown{};
-    EverySecondDraw columns(generator());
-    EverySecondDraw rows(generator());
-    for (std::int32_t i = 1; i < kRonchiThrows; ++i) {
-        thrown[rows.Draw() % kGrid * kGrid + columns.Draw() % kGrid] = 1;
-        columns.Step();
-        rows.Step();
+    DrawsInBatches batch(generator);
+    for (std::size_t i = 0; i < kBatches; ++i) {
+        if (i > 0) {
+            batch.Step();
+        }
+        const auto& draws = batch.Draws();
+        for (std::size_t at = 0; at < draws.size(); at += 2) {
+            thrown[draws[at + 1] % kGrid * kGrid + draws[at] % kGrid] = 1;
+        }
     }
-    thrown[rows.Draw() % kGrid * kGrid + columns.Draw() % kGrid] = 1;
-    generator.seed(static_cast<RonchiGenerator::result_type>(rows.Draw()));
+    generator.seed(static_cast<RonchiGenerator::result_type>(batch.Draws().back()));
     return thrown;
 }
 

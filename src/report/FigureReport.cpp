@@ -32,30 +32,38 @@ constexpr ZoneNumber kZoneNumbers[] = {
     {"transverse", &FigureZone::transverse},
 };
 
-std::string ZoneTableText(const Figure& figure, TableFormat format)
+std::vector<std::string> ZoneColumns()
 {
     std::vector<std::string> columns{"zone"};
     for (const ZoneNumber& number : kZoneNumbers) {
         columns.emplace_back(number.name);
     }
-    const TableLayout layout(format, columns, true);
-    std::string text;
-    layout.AppendHead(text);
+    return columns;
+}
+
+/// The rows of the zones; `cells` holds what stands before their numbers.
+void AppendZones(std::string& text, const TableLayout& layout, const Figure& figure,
+                 std::vector<TableCell> cells)
+{
+    const std::size_t leading = cells.size();
     for (std::size_t i = 0; i < figure.zones.size(); ++i) {
-        std::vector<TableCell> cells{static_cast<double>(i + 1)};
+        cells.resize(leading);
+        cells.emplace_back(static_cast<double>(i + 1));
         for (const ZoneNumber& number : kZoneNumbers) {
             cells.emplace_back(figure.zones[i].*number.value);
         }
         layout.AppendRow(text, cells, i == 0);
     }
-    return text;
 }
 
-std::string FigureJson(const Figure& figure, double D)
+/// The object of a figure; `series` comes first, if it has a name.
+void WriteFigure(JsonWriter& json, const std::string* series, const Figure& figure, double D)
 {
-    std::string text;
-    JsonWriter json(text);
     json.BeginObject();
+    if (series != nullptr) {
+        json.Key("series");
+        json.Text(*series);
+    }
     json.Key("zones");
     json.BeginArray();
     for (const FigureZone& zone : figure.zones) {
@@ -81,23 +89,64 @@ std::string FigureJson(const Figure& figure, double D)
     }
     json.EndArray();
     json.EndObject();
-    return text;
+}
+
+/// The zones, an empty line and the numbers with their units.
+void AppendFigure(std::string& text, const Figure& figure)
+{
+    const TableLayout layout(TableFormat::kText, ZoneColumns(), true);
+    layout.AppendHead(text);
+    AppendZones(text, layout, figure, {});
+    text += '\n';
+    for (const FigureNumber& number : kFigureNumbers) {
+        text += number.name + std::string("\t");
+        AppendNumber(text, figure.*number.value);
+        text += std::string("\t") + number.unit + '\n';
+    }
 }
 
 } // namespace
 
 std::string FigureReport(const Figure& figure, double D, TableFormat format)
 {
+    std::string text;
     if (format == TableFormat::kJson) {
-        return FigureJson(figure, D);
+        JsonWriter json(text);
+        WriteFigure(json, nullptr, figure, D);
+    } else if (format == TableFormat::kCsv) {
+        const TableLayout layout(format, ZoneColumns(), true);
+        layout.AppendHead(text);
+        AppendZones(text, layout, figure, {});
+    } else {
+        AppendFigure(text, figure);
     }
-    std::string text = ZoneTableText(figure, format);
-    if (format == TableFormat::kText) {
-        text += '\n';
-        for (const FigureNumber& number : kFigureNumbers) {
-            text += number.name + std::string("\t");
-            AppendNumber(text, figure.*number.value);
-            text += std::string("\t") + number.unit + '\n';
+    return text;
+}
+
+std::string SeriesFiguresReport(std::span<const SeriesFigure> figures, double D, TableFormat format)
+{
+    std::string text;
+    if (format == TableFormat::kJson) {
+        JsonWriter json(text);
+        json.BeginArray();
+        for (const auto& [name, figure] : figures) {
+            WriteFigure(json, &name, figure, D);
+        }
+        json.EndArray();
+    } else if (format == TableFormat::kCsv) {
+        std::vector<std::string> columns = ZoneColumns();
+        columns.insert(columns.begin(), "series");
+        const TableLayout layout(format, columns, true);
+        layout.AppendHead(text);
+        for (const auto& [name, figure] : figures) {
+            AppendZones(text, layout, figure, {std::string_view(name)});
+        }
+    } else {
+        for (const auto& [name, figure] : figures) {
+            text += "# ";
+            AppendTextCell(text, name);
+            text += '\n';
+            AppendFigure(text, figure);
         }
     }
     return text;

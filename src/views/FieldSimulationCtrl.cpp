@@ -16,3 +16,5 @@ void CFieldSimulationCtrl::Paint(Surface& surface)
         DrawFieldPicture(surface, m_simulation.Table(*m_telescope, WriteDot));
     }
 }
+
+#include "moc_FieldSimulationCtrl.cpp"

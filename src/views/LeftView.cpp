@@ -18,3 +18,5 @@ void CLeftView::PaintPage(Surface& surface)
     PaintSummary(surface, *m_document.active_record,
                  {m_document.field_diameter_100, m_document.field_angle_100}, g_nLanguage, kPaperFontHeight);
 }
+
+#include "moc_LeftView.cpp"

@@ -27,3 +27,5 @@ void CMatchingRonchiWidget::Paint(Surface& surface)
     DrawRonchiPicture(surface, *m_document.active_record, m_grating, m_constant,
                       static_cast<std::uint32_t>(std::time(nullptr)));
 }
+
+#include "moc_MatchingRonchiWidget.cpp"

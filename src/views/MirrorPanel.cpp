@@ -7,3 +7,5 @@ void CMirrorPanel::PaintPanel(Surface& surface, Colour background, Colour text)
 {
     PaintMirrorPanel(surface, *m_document.active_record, background, text);
 }
+
+#include "moc_MirrorPanel.cpp"

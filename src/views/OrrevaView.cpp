@@ -67,3 +67,5 @@ void COrrevaView::mouseDoubleClickEvent(QMouseEvent* event)
         mousePressEvent(event); // a quick second right click is one more
     }
 }
+
+#include "moc_OrrevaView.cpp"

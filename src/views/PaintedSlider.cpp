@@ -5,3 +5,5 @@ void CPaintedSlider::paintEvent(QPaintEvent* event)
     QSlider::paintEvent(event);
     emit Painted(value());
 }
+
+#include "moc_PaintedSlider.cpp"

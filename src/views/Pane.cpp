@@ -28,3 +28,5 @@ bool CPane::event(QEvent* event)
     }
     return CPictureWidget::event(event);
 }
+
+#include "moc_Pane.cpp"

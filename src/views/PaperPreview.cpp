@@ -101,3 +101,5 @@ void CPaperPreview::paintEvent(QPaintEvent* event)
         painter.restore();
     }
 }
+
+#include "moc_PaperPreview.cpp"

@@ -22,3 +22,5 @@ void CPictureWidget::paintEvent(QPaintEvent*)
     PainterSurface surface(painter, width(), height());
     Paint(surface);
 }
+
+#include "moc_PictureWidget.cpp"

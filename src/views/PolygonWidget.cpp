@@ -7,3 +7,5 @@ void CPolygonWidget::Paint(Surface& surface)
 {
     PaintPolygon(surface, {m_dDiameter, m_dValue, m_nType}, g_nLanguage);
 }
+
+#include "moc_PolygonWidget.cpp"

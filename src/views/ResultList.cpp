@@ -204,3 +204,5 @@ void CResultList::keyPressEvent(QKeyEvent* event)
         QTreeView::keyPressEvent(event);
     }
 }
+
+#include "moc_ResultList.cpp"

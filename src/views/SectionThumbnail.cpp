@@ -23,3 +23,5 @@ void CSectionThumbnail::Paint(Surface& surface)
     SectionZoom whole;
     PaintSection(surface, whole, m_telescope, ViewSwitches{}, Pixel{0, 0}, g_nLanguage);
 }
+
+#include "moc_SectionThumbnail.cpp"

@@ -7,3 +7,5 @@ void CSectorWidget::Paint(Surface& surface)
 {
     PaintSector(surface, {m_dDiameter, m_dValue, m_nType}, g_nLanguage);
 }
+
+#include "moc_SectorWidget.cpp"

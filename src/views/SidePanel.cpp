@@ -18,3 +18,5 @@ void CSidePanel::Paint(Surface& surface)
     PaintPanel(surface, ToColour(palette().color(QPalette::Window)),
                ToColour(palette().color(QPalette::WindowText)));
 }
+
+#include "moc_SidePanel.cpp"

@@ -17,3 +17,5 @@ void CSurfaceDiscWidget::Paint(Surface& surface)
                      ToColour(palette().color(QPalette::Window)),
                      ToColour(palette().color(QPalette::WindowText)));
 }
+
+#include "moc_SurfaceDiscWidget.cpp"

@@ -8,3 +8,5 @@ void CTubePanel::PaintPanel(Surface& surface, Colour background, Colour text)
 {
     PaintTubePanel(surface, *m_document.active_record, g_nLanguage, background, text);
 }
+
+#include "moc_TubePanel.cpp"

@@ -14,3 +14,5 @@ void CWavefrontWidget::Paint(Surface& surface)
     const bool dark = palette().color(QPalette::Window).lightness() < kHalfLight;
     PaintChart(surface, m_chart, dark ? kDarkChart : kLightChart);
 }
+
+#include "moc_WavefrontWidget.cpp"

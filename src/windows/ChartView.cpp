@@ -107,3 +107,5 @@ void CChartView::mousePressEvent(QMouseEvent* event)
         emit ClickedAt(at.x, at.y);
     }
 }
+
+#include "moc_ChartView.cpp"

@@ -117,3 +117,5 @@ void CCompareWindow::Refresh()
     m_list->SetComputedRows(
         count, [shown = std::move(shown)](int row) { return shown[static_cast<std::size_t>(row)]; });
 }
+
+#include "moc_CompareWindow.cpp"

@@ -82,3 +82,5 @@ void CDesignCheckField::ShowFindings(const std::vector<DesignFinding>& findings)
 }
 
 void CDesignCheckField::ShowNothing() { hide(); }
+
+#include "moc_DesignCheckField.cpp"

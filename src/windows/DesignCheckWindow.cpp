@@ -83,3 +83,5 @@ void CDesignCheckWindow::ShowNothing()
 }
 
 void CDesignCheckWindow::ShowMessage(const Bilingual& message) { m_message->setText(Shown(message)); }
+
+#include "moc_DesignCheckWindow.cpp"

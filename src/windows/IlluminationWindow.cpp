@@ -1,20 +1,18 @@
 #include "windows/IlluminationWindow.h"
 
-#include "lib/files/FileBytes.h"
 #include "lib/text/CodePage.h"
 #include "model/optics/IlluminationCurve.h"
 #include "painting/PainterSurface.h"
 #include "painting/PictureFile.h"
 #include "views/ResultList.h"
 #include "windows/ChartView.h"
+#include "windows/PicturePath.h"
 #include "windows/WindowText.h"
 
 #include <QFile>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -34,8 +32,6 @@ constexpr Bilingual kSecondaries{"Secondaries", "Fangspiegel"};
 constexpr Bilingual kLightTable{"Table", "Tabelle"};
 constexpr Bilingual kPrint{"Print...", "Drucken..."};
 constexpr Bilingual kSave{"Save picture...", "Bild speichern..."};
-constexpr Bilingual kPictures{"PNG (*.png);;SVG (*.svg);;PDF (*.pdf)",
-                              "PNG (*.png);;SVG (*.svg);;PDF (*.pdf)"};
 constexpr Bilingual kLightHint{"Point into the curve, or move in it with the arrow keys.",
                                "Zeigen Sie in die Kurve, oder gehen Sie in ihr mit den Pfeiltasten."};
 constexpr Bilingual kTry{
@@ -283,22 +279,17 @@ void CIlluminationWindow::Print()
 
 void CIlluminationWindow::Save()
 {
-    QString form;
-    QString path =
-        QFileDialog::getSaveFileName(this, Shown(kSave), "illumination.png", Shown(kPictures), &form);
-    if (path.isEmpty()) {
+    const auto path = AskPicturePath(this, Shown(kSave), "illumination.png");
+    if (!path) {
         return;
     }
-    std::string bytesPath = QFile::encodeName(path).toStdString();
-    if (!IsPictureFile(bytesPath)) {
-        bytesPath += form.startsWith("SVG") ? ".svg" : form.startsWith("PDF") ? ".pdf" : ".png";
-    }
     const auto fieldStops = FieldStopsOf(m_eyepieces, m_stops.f, ShownField(m_stops, m_wanted));
-    const auto bytes = PictureBytes(bytesPath, kLightPictureSize, m_title, [&](Surface& surface) {
-        PaintChart(surface, IlluminationChart(m_stops, m_wanted, fieldStops, kLightIllumination, g_nLanguage),
-                   kLightChart);
-    });
-    if (!bytes || !ReplaceFile(bytesPath.c_str(), bytes->toStdString())) {
-        QMessageBox::warning(this, "Orreva", Shown(kNotWritten));
+    const Chart chart = IlluminationChart(m_stops, m_wanted, fieldStops, kLightIllumination, g_nLanguage);
+    const auto bytes = PictureBytes(QFile::encodeName(*path).toStdString(), kLightPictureSize, m_title,
+                                    [&](Surface& surface) { PaintChart(surface, chart, kLightChart); });
+    if (bytes) {
+        emit FileMade(*path, *bytes);
     }
 }
+
+#include "moc_IlluminationWindow.cpp"

@@ -31,6 +31,8 @@ public:
 signals:
     /// The user wants to try a standard minor axis, mm.
     void MinorAxisWanted(double minorAxis);
+    /// The user wants these bytes in a file.
+    void FileMade(const QString& path, const QByteArray& bytes);
 
 private:
     void MakeCharts();

@@ -56,3 +56,5 @@ void CSectionPair::paintEvent(QPaintEvent*)
         left = width() - half.x;
     }
 }
+
+#include "moc_SectionPair.cpp"

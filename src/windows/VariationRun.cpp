@@ -51,3 +51,5 @@ void CVariationRun::Look()
         emit Finished(m_table);
     }
 }
+
+#include "moc_VariationRun.cpp"

@@ -1,26 +1,21 @@
 #include "windows/VariationWindow.h"
 
-#include "lib/files/FileBytes.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/FiniteText.h"
 #include "lib/text/Numbers.h"
 #include "lib/text/ShortestNumber.h"
 #include "lib/text/Table.h"
-#include "painting/PainterSurface.h"
+#include "painting/PictureFile.h"
 #include "windows/ChartView.h"
+#include "windows/PicturePath.h"
 #include "windows/VariationRun.h"
 #include "windows/WindowText.h"
 
-#include <QBuffer>
 #include <QComboBox>
 #include <QFile>
-#include <QFileDialog>
 #include <QFormLayout>
-#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
@@ -49,7 +44,7 @@ constexpr int kMostPoints = 100'000;
 constexpr int kUsualPoints = 201;
 constexpr const char* kFirstParameter = "secondary/diameter";
 constexpr const char* kFirstValues[] = {"full_field", "linear_obstruction"};
-constexpr QSize kVariationPictureSize{1600, 1000};
+constexpr Pixel kVariationPictureSize{1600, 1000};
 
 std::string Shortest(double value)
 {
@@ -268,9 +263,8 @@ void CVariationWindow::Choose(double x)
 
 void CVariationWindow::ExportTable()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, Shown(kVariationTable), "variation.csv", "CSV (*.csv)");
-    if (path.isEmpty()) {
+    const auto path = AskTablePath(this, Shown(kVariationTable), "variation.csv");
+    if (!path) {
         return;
     }
     std::vector<std::string> columns{m_curves.field->key};
@@ -287,26 +281,23 @@ void CVariationWindow::ExportTable()
         }
         layout.AppendRow(bytes, cells, row == 0);
     }
-    if (!ReplaceFile(QFile::encodeName(path).constData(), bytes)) {
-        QMessageBox::warning(this, "Orreva", Shown(kNotWritten));
-    }
+    emit FileMade(*path, QByteArray::fromStdString(bytes));
 }
 
 void CVariationWindow::ExportPicture()
 {
-    const QString path = QFileDialog::getSaveFileName(this, Shown(kPicture), "variation.png", "PNG (*.png)");
-    if (path.isEmpty()) {
+    const auto path = AskPicturePath(this, Shown(kPicture), "variation.png");
+    if (!path) {
         return;
     }
-    QImage image(kVariationPictureSize, QImage::Format_RGB32);
-    QPainter painter(&image);
-    PainterSurface surface(painter, image.width(), image.height());
-    PaintChart(surface, VariationChart(m_curves, g_nLanguage), kLightChart, 2 * kChartFontHeight);
-    painter.end();
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    if (!image.save(&buffer, "PNG") ||
-        !ReplaceFile(QFile::encodeName(path).constData(), buffer.data().toStdString())) {
-        QMessageBox::warning(this, "Orreva", Shown(kNotWritten));
+    const auto bytes = PictureBytes(QFile::encodeName(*path).toStdString(), kVariationPictureSize,
+                                    Shown(kVariationTitle), [&](Surface& surface) {
+                                        PaintChart(surface, VariationChart(m_curves, g_nLanguage),
+                                                   kLightChart, 2 * kChartFontHeight);
+                                    });
+    if (bytes) {
+        emit FileMade(*path, *bytes);
     }
 }
+
+#include "moc_VariationWindow.cpp"

@@ -31,6 +31,8 @@ public:
 signals:
     /// The user chose a place on the curve of a parameter.
     void TrialWanted(const RecordField* field, double value);
+    /// The user wants these bytes in a file.
+    void FileMade(const QString& path, const QByteArray& bytes);
 
 private:
     static constexpr std::size_t kMostValues = 4;

@@ -9,6 +9,7 @@
 #include "windows/VariationWindow.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStatusBar>
@@ -23,6 +24,7 @@ protected:
     explicit ToolWindows(int language = kEnglish) : AppFixture(language) {}
 
     COrrevaData& Record() const { return app->Document().main_record; }
+    QString Message() const { return app->Frame().findChild<QLabel*>("message")->text(); }
     CDesignCheckField* Field() const { return app->Frame().findChild<CDesignCheckField*>(); }
     template <typename Window>
     Window* Find() const
@@ -220,6 +222,28 @@ TEST_F(ToolWindows, TheIlluminationFollowsAndTriesASecondary)
     Record().SetSecondaryDiameter(66.04);
     app->Document().Recalculate();
     EXPECT_EQ("66.04 mm", boldRow());
+}
+
+TEST_F(ToolWindows, AnExportOfAWindowIsToldInTheStatusBarWithItsPath)
+{
+    MakeTelescope();
+    Choose(33041);
+    auto* const window = Find<CIlluminationWindow>();
+    ASSERT_NE(nullptr, window);
+    const QString path = QFileInfo("light.svg").absoluteFilePath();
+    emit window->FileMade(path, "<svg/>");
+    EXPECT_EQ("<svg/>", folder.Read("light.svg"));
+    EXPECT_TRUE(Message().contains(path));
+    // What fails is told until it succeeds.
+    emit window->FileMade("/nowhere/light.svg", "<svg/>");
+    const QString failure = Message();
+    EXPECT_TRUE(failure.contains("/nowhere/light.svg"));
+    Choose(33041);
+    EXPECT_EQ(failure, Message());
+    Choose(33023);
+    emit Find<CVariationWindow>()->FileMade(path, "a,b\n");
+    EXPECT_EQ("a,b\n", folder.Read("light.svg"));
+    EXPECT_FALSE(Message().contains("/nowhere/light.svg"));
 }
 
 } // namespace

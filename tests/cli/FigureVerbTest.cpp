@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 namespace {
 
@@ -95,6 +96,50 @@ TEST_F(FigureCommand, TellsTheLineOfAFault)
     EXPECT_EQ("orreva-cli: r.csv: line 3: the zone lies beyond the edge of the mirror\n", Cli(kMirror).err);
     Write("r.csv", "30,1\n60,1\n100,1\n");
     EXPECT_EQ(0, Cli(kMirror).status);
+}
+
+TEST_F(FigureCommand, AFileOfSeveralSeriesIsReadSeriesBySeries)
+{
+    const std::string first = "30,1\n60,1\n90,1\n";
+    const std::string second = "20,0\n50,0.4\n80,1.1\n95,1.6\n";
+    std::map<std::string, CliRun> alone;
+    for (const std::string& zones : {first, second}) {
+        Write("r.csv", zones);
+        alone[zones] = Cli(kMirror);
+        ASSERT_EQ(0, alone[zones].status);
+    }
+    const std::string head = "# Orreva: readings of the knife edge\n";
+    const std::string both = "# series: Vor der Politur, f\xC3\xBCr A\n" + first + "# series: B\n" + second;
+    Write("r.csv", head + both);
+    const CliRun text = Cli(kMirror);
+    EXPECT_EQ(0, text.status);
+    EXPECT_EQ("# Vor der Politur, f\xC3\xBCr A\n" + alone[first].out + "# B\n" + alone[second].out, text.out);
+
+    const CliRun csv = Cli(std::string(kMirror) + "--format csv");
+    EXPECT_EQ(0u, csv.out.find("series,zone,radius,reading,ideal,deviation,transverse\n"
+                               "\"Vor der Politur, f\xC3\xBCr A\",1,30,1,0.1875,"));
+    EXPECT_NE(std::string::npos, csv.out.find("\nB,4,95,1.6,"));
+    EXPECT_EQ(1 + 3 + 4, std::ranges::count(csv.out, '\n'));
+
+    const CliRun json = Cli(std::string(kMirror) + "--format json");
+    EXPECT_EQ(0u,
+              json.out.find("[\n  {\n    \"series\": \"Vor der Politur, f\xC3\xBCr A\",\n    \"zones\": ["));
+    EXPECT_NE(std::string::npos, json.out.find("\n  },\n  {\n    \"series\": \"B\",\n"));
+    EXPECT_TRUE(json.out.ends_with("\n  }\n]\n"));
+
+    Write("r.csv", "# series: A\n" + first + "# series: B\n20,0\n10,1\n30,1\n");
+    const CliRun falling = Cli(kMirror);
+    EXPECT_EQ(1, falling.status);
+    EXPECT_EQ("", falling.out);
+    EXPECT_EQ("orreva-cli: r.csv: line 7: the radii of the zones must rise\n", falling.err);
+}
+
+TEST_F(FigureCommand, OneNamedSeriesIsAFileOfReadingsLikeAnyOther)
+{
+    Write("r.csv", "30,1\n60,1\n90,1\n");
+    const CliRun plain = Cli(kMirror);
+    Write("r.csv", "# series: A\n# date: 2026-11-21\nradius,reading 1\n30,1\n60,1\n90,1\n");
+    EXPECT_EQ(plain.out, Cli(kMirror).out);
 }
 
 TEST_F(FigureCommand, ReadingsMayComeFromAPipe)

@@ -20,11 +20,24 @@ TEST(StatusLine, AFailureStaysUntilItSucceeds)
     line.BeginCommand();
     EXPECT_EQ("no room", line.Text());
     line.Succeed(StatusTopic::Export, "exported");
-    EXPECT_EQ("no room  |  exported", line.Text());
+    EXPECT_EQ("exported  |  no room", line.Text());
     line.Fail(StatusTopic::Save, "read-only");
     EXPECT_EQ("read-only", line.Text());
     line.Succeed(StatusTopic::Save, "saved");
     EXPECT_EQ("saved", line.Text());
+}
+
+TEST(StatusLine, TheNewestStandsFirst)
+{
+    StatusLine line;
+    line.Fail(StatusTopic::Save, "no room");
+    line.Fail(StatusTopic::Print, "no paper");
+    line.Fail(StatusTopic::Export, "read-only");
+    EXPECT_EQ("read-only  |  no paper  |  no room", line.Text());
+    line.Fail(StatusTopic::Print, "still no paper");
+    EXPECT_EQ("still no paper  |  read-only  |  no room", line.Text());
+    line.Say("done");
+    EXPECT_EQ("done  |  still no paper  |  read-only  |  no room", line.Text());
 }
 
 TEST(StatusLine, ThatCopiesCannotBeKeptIsToldUntilTheNextCommand)

@@ -331,6 +331,18 @@ TEST_F(SectionPicture, EndsForEveryNumberInTheRecord)
     }
 }
 
+TEST_F(SectionPicture, ATubeWhoseLengthIsNoNumberHasNoTicks)
+{
+    record.SetFocuserHeight(-HUGE_VAL);
+    record.SetDistanceFront(-HUGE_VAL);
+    ASSERT_TRUE(std::isnan(record.GetTubeLength()));
+    const RecordingSurface window = Paint();
+    EXPECT_TRUE(std::ranges::none_of(window.Of<drawn::Text>(), [](const drawn::Text& text) {
+        return text.text.find_first_not_of("0123456789") == std::string::npos;
+    }));
+    EXPECT_LT(window.calls.size(), 100u);
+}
+
 TEST_F(SectionPicture, AtAScaleOfTheCallersIsTheSamePicture)
 {
     RecordingSurface atOne(1077, 1000);

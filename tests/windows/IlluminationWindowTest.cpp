@@ -4,9 +4,11 @@
 #include "model/optics/IlluminationCurve.h"
 #include "views/ResultList.h"
 #include "windows/ChartView.h"
+#include "windows/NextFileDialog.h"
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -154,6 +156,33 @@ TEST_F(IlluminationWidgets, TakesTheGroundOfTheDesktop)
     window.setPalette(dark);
     EXPECT_EQ(qRgb(kDarkChart.background.red, kDarkChart.background.green, kDarkChart.background.blue),
               curve->grab().toImage().pixel(2, 2));
+}
+
+TEST_F(IlluminationWidgets, ThePictureHasTheFormOfItsEnding)
+{
+    const QSignalSpy made(&window, &CIlluminationWindow::FileMade);
+    const auto save = [&](const QString& name, const QString& form = {}) {
+        AnswerNextFileDialog(window, name, form);
+        for (QPushButton* const button : window.findChildren<QPushButton*>()) {
+            if (button->text() == "Save picture...") {
+                button->click();
+            }
+        }
+    };
+    save("light.svg");
+    save("light.v2", "PDF (*.pdf)");
+    save("light");
+    save("");
+    ASSERT_EQ(3, made.count());
+    const QByteArray svg = made[0][1].toByteArray();
+    EXPECT_TRUE(svg.contains("<svg") && svg.contains("<title>Newton</title>"));
+    EXPECT_TRUE(svg.contains("Ploessl")); // the eyepiece's field stop is marked here, too
+    EXPECT_TRUE(made[1][0].toString().endsWith("/light.v2.pdf"));
+    EXPECT_TRUE(made[1][1].toByteArray().startsWith("%PDF"));
+    EXPECT_TRUE(made[2][0].toString().endsWith("/light.png"));
+    const QImage png = QImage::fromData(made[2][1].toByteArray(), "PNG");
+    EXPECT_EQ(QSize(1200, 750), png.size());
+    EXPECT_EQ(QColor(Qt::white), png.pixelColor(2, 2)); // for paper, whatever the desktop's ground
 }
 
 TEST_F(IlluminationWidgets, SpeaksGerman)

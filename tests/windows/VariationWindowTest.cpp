@@ -3,19 +3,19 @@
 #include "support/SampleScopes.h"
 #include "support/TemporaryFolder.h"
 #include "windows/ChartView.h"
+#include "windows/NextFileDialog.h"
 #include "windows/VariationRun.h"
 
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QFileDialog>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
-#include <QTimer>
 
 #include <cmath>
 
@@ -100,21 +100,47 @@ TEST_F(VariationWindow, ALongRunCanBeStopped)
     EXPECT_EQ("Stopped.", told->text());
 }
 
-TEST_F(VariationWindow, TheTableIsWrittenAsCsv)
+TEST_F(VariationWindow, TheTableIsMadeAsCsv)
 {
     Edit(0)->setText("40");
     Edit(1)->setText("60");
     window.findChild<QSpinBox*>()->setValue(3);
     ASSERT_TRUE(Wait());
-    QTimer::singleShot(0, &window, [] {
-        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(nullptr, dialog);
-        dialog->findChild<QLineEdit*>()->setText("curve.csv");
-        static_cast<QDialog*>(dialog)->accept();
-    });
+    const QSignalSpy made(&window, &CVariationWindow::FileMade);
+    for (const char* const name : {"curve.csv", "curve", "Curve.CSV"}) {
+        AnswerNextFileDialog(window, name);
+        Button("Table as CSV...")->click();
+    }
+    ASSERT_EQ(3, made.count());
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ("secondary/diameter,full_field,linear_obstruction\n40,0,20\n50,12.5,25\n60,25,30\n",
+                  made[i][1].toByteArray());
+    }
+    EXPECT_TRUE(made[0][0].toString().endsWith("/curve.csv"));
+    EXPECT_TRUE(made[1][0].toString().endsWith("/curve.csv"));
+    EXPECT_TRUE(made[2][0].toString().endsWith("/Curve.CSV"));
+    AnswerNextFileDialog(window, "");
     Button("Table as CSV...")->click();
-    EXPECT_EQ("secondary/diameter,full_field,linear_obstruction\n40,0,20\n50,12.5,25\n60,25,30\n",
-              folder.Read("curve.csv"));
+    EXPECT_EQ(3, made.count());
+}
+
+TEST_F(VariationWindow, ThePictureHasTheFormOfItsEnding)
+{
+    ASSERT_TRUE(Wait());
+    const QSignalSpy made(&window, &CVariationWindow::FileMade);
+    AnswerNextFileDialog(window, "curve.svg");
+    Button("Picture...")->click();
+    AnswerNextFileDialog(window, "curve", "PDF (*.pdf)");
+    Button("Picture...")->click();
+    AnswerNextFileDialog(window, "curve");
+    Button("Picture...")->click();
+    ASSERT_EQ(3, made.count());
+    EXPECT_TRUE(made[0][1].toByteArray().contains("<svg"));
+    EXPECT_TRUE(made[0][1].toByteArray().contains("Fully lit field"));
+    EXPECT_TRUE(made[1][0].toString().endsWith("/curve.pdf"));
+    EXPECT_TRUE(made[1][1].toByteArray().startsWith("%PDF"));
+    EXPECT_TRUE(made[2][0].toString().endsWith("/curve.png"));
+    EXPECT_EQ(QSize(1600, 1000), QImage::fromData(made[2][1].toByteArray(), "PNG").size());
 }
 
 TEST_F(VariationWindow, AnyDesignHasItsCurves)

@@ -340,6 +340,8 @@ std::optional<ReadingBook> ParseBook(std::string_view text)
     return book;
 }
 
+std::size_t SeriesCount(std::string_view text) { return SectionsOf(WithoutBookMark(text)).size(); }
+
 SeriesImport ImportSeries(std::string_view text, double outer, const std::string& name)
 {
     text = WithoutBookMark(text);

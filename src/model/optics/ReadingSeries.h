@@ -118,6 +118,9 @@ std::string BookText(const ReadingBook& book);
 /// ours, no UTF-8, or beyond the limits.
 std::optional<ReadingBook> ParseBook(std::string_view text);
 
+/// How many series a file of readings holds, by the lines that name them.
+std::size_t SeriesCount(std::string_view text);
+
 /// The series of a file of readings that are imported into a book: each must be without fault. A series
 /// without a name is given `name`.
 struct SeriesImport {

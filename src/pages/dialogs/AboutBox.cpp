@@ -18,3 +18,5 @@ CAboutBox::CAboutBox(bool germanForm, QWidget* parent)
 }
 
 CAboutBox::~CAboutBox() = default;
+
+#include "moc_AboutBox.cpp"

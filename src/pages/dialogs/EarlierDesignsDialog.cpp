@@ -46,3 +46,5 @@ void CEarlierDesignsDialog::ShowChosen()
     m_ui->section->SetTelescope(readable ? &design : nullptr);
     m_ui->buttons->button(QDialogButtonBox::Open)->setEnabled(readable);
 }
+
+#include "moc_EarlierDesignsDialog.cpp"

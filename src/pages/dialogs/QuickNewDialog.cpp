@@ -33,3 +33,5 @@ QuickNewTexts CQuickNewDialog::Texts() const
 {
     return {TextOf(m_ui->title), TextOf(m_ui->aperture), TextOf(m_ui->focalLength)};
 }
+
+#include "moc_QuickNewDialog.cpp"

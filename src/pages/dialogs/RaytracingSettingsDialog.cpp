@@ -10,3 +10,5 @@ CRaytracingSettingsDialog::CRaytracingSettingsDialog(std::uint8_t miss_in_grey, 
 }
 
 CRaytracingSettingsDialog::~CRaytracingSettingsDialog() = default;
+
+#include "moc_RaytracingSettingsDialog.cpp"

@@ -150,3 +150,5 @@ void CWorkshopSheetsDialog::PrintOn(QPrinter& printer)
         m_document.ShowStatus();
     }
 }
+
+#include "moc_WorkshopSheetsDialog.cpp"

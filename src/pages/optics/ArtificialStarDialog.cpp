@@ -32,3 +32,5 @@ void CArtificialStarDialog::OnChangeStarDiameter()
     const std::string diameter = TextOf(m_ui->starDiameter);
     m_ui->resolutionDistance->setPlainText(ToQString(m_texts.TypeStarDiameter(diameter.c_str())));
 }
+
+#include "moc_ArtificialStarDialog.cpp"

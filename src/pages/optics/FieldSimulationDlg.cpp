@@ -12,3 +12,5 @@ CFieldSimulationDlg::CFieldSimulationDlg(COrrevaDoc& document, QWidget* parent)
 }
 
 CFieldSimulationDlg::~CFieldSimulationDlg() = default;
+
+#include "moc_FieldSimulationDlg.cpp"

@@ -215,3 +215,5 @@ void CFoucaultSession::SetWavelength(double wavelength)
 }
 
 void CFoucaultSession::Store() { m_document.StoreReadings(m_book); }
+
+#include "moc_FoucaultSession.cpp"

@@ -123,3 +123,5 @@ void CPropertyPageCouder1::RebuildMask()
     m_ui->maskZones->SetColumns(mask.Columns(), g_nLanguage);
     ShowRows(*m_ui->maskZones, mask);
 }
+
+#include "moc_PropertyPageCouder1.cpp"

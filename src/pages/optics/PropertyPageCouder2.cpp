@@ -139,3 +139,5 @@ void CPropertyPageCouder2::ExportFile()
         m_ui->told->setText(m_session.Export(path) ? QString() : ToQString(kNotWritten.In(g_nLanguage)));
     }
 }
+
+#include "moc_PropertyPageCouder2.cpp"

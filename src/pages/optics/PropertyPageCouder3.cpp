@@ -83,3 +83,5 @@ void CPropertyPageCouder3::RemoveZoneAt()
         return true;
     });
 }
+
+#include "moc_PropertyPageCouder3.cpp"

@@ -130,3 +130,5 @@ void CPropertyPageCouder4::ShowPictures(const std::vector<SeriesFigure>& figures
     m_ui->transverse->Show(TransverseChart(curves, D, g_nLanguage));
     m_ui->disc->Show(curves.empty() ? std::nullopt : std::optional(*curves.front().figure), D);
 }
+
+#include "moc_PropertyPageCouder4.cpp"

@@ -38,3 +38,5 @@ void CPropertyPageCouder5::ShowSession()
             MaskName(g_pCurrentMask->mask_type, static_cast<std::size_t>(zones.RowCount()), g_nLanguage)));
     }
 }
+
+#include "moc_PropertyPageCouder5.cpp"

@@ -22,3 +22,5 @@ void CPropertyPageMatchingRonchi1::Store()
     StoreNumber(Record(), kRonchiGrating, TextOf(m_ui->grating));
     StoreNumber(Record(), kRonchiConstant, TextOf(m_ui->constant));
 }
+
+#include "moc_PropertyPageMatchingRonchi1.cpp"

@@ -17,3 +17,5 @@ CPropertyPageMatchingRonchi2::CPropertyPageMatchingRonchi2(COrrevaDoc& document,
     fill->setContentsMargins(0, 0, 0, 0);
     fill->addWidget(scroll);
 }
+
+#include "moc_PropertyPageMatchingRonchi2.cpp"

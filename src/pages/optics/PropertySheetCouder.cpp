@@ -62,3 +62,5 @@ void CPropertySheetCouder::showEvent(QShowEvent* event)
     CPropertySheet::showEvent(event);
     move(screen()->availableGeometry().center() - frameGeometry().center() + pos());
 }
+
+#include "moc_PropertySheetCouder.cpp"

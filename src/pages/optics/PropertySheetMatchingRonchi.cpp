@@ -12,3 +12,5 @@ CPropertySheetMatchingRonchi::CPropertySheetMatchingRonchi(COrrevaDoc& document,
             [&document](QWidget* place) { return new CPropertyPageMatchingRonchi2(document, place); });
     OpenWithRoom({690, 790});
 }
+
+#include "moc_PropertySheetMatchingRonchi.cpp"

@@ -175,3 +175,5 @@ QPoint CReadingsModel::NextReading() const
     }
     return {m_runs, 0};
 }
+
+#include "moc_ReadingsModel.cpp"

@@ -98,3 +98,5 @@ void CReadingsView::keyPressEvent(QKeyEvent* event)
     }
     event->accept(); // no button of the sheet is pressed
 }
+
+#include "moc_ReadingsView.cpp"

@@ -25,3 +25,5 @@ CHelpStrip::CHelpStrip(QWidget* parent) : QWidget(parent)
 }
 
 void CHelpStrip::setHelpControl(int controlId) { m_help->setProperty(kControlId, controlId); }
+
+#include "moc_HelpStrip.cpp"

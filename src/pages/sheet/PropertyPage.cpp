@@ -21,3 +21,5 @@ void CPropertyPage::BindHelp(int infoControl, int helpControl, long helpContext)
     bind(infoControl, 0);
     bind(helpControl, helpContext);
 }
+
+#include "moc_PropertyPage.cpp"

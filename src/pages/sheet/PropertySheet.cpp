@@ -348,3 +348,5 @@ void CPropertySheet::keyPressEvent(QKeyEvent* event)
     }
     QDialog::keyPressEvent(event);
 }
+
+#include "moc_PropertySheet.cpp"

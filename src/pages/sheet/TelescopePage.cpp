@@ -39,3 +39,5 @@ void CTelescopePage::BindReset(QAbstractButton* button, QLineEdit* edit, const N
 {
     BindReset(button, edit, [this, field] { return ResetNumber(Record(), field); });
 }
+
+#include "moc_TelescopePage.cpp"

@@ -33,3 +33,5 @@ void CWantedFieldPage::ShowDegrees()
 {
     ShowText(m_wantedDegrees, WantedFieldDegrees(Record(), TextOf(m_wantedField)));
 }
+
+#include "moc_WantedFieldPage.cpp"

@@ -26,3 +26,5 @@ void CComponentDialog::accept()
     StoreComponent(m_record, m_component, {TextOf(m_ui->weight), TextOf(m_ui->balance)});
     QDialog::accept();
 }
+
+#include "moc_ComponentDialog.cpp"

@@ -24,3 +24,5 @@ void CMyPropertyPage01::Store()
     Record().SetTitle(title.empty() ? "Unbenannt" : title.c_str()); // in both languages
     Record().SetDescription(FromTextDocument(*m_ui->remarks->document()).c_str());
 }
+
+#include "moc_MyPropertyPage01.cpp"

@@ -69,3 +69,5 @@ void CMyPropertyPage02::SelectMaterial(int index)
     Record().SetMaterial(material.stored_name.In(g_nLanguage));
     Changed();
 }
+
+#include "moc_MyPropertyPage02.cpp"

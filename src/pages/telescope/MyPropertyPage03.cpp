@@ -56,3 +56,5 @@ void CMyPropertyPage03::Store()
     std::ranges::transform(m_edits, texts.numbers.begin(), TextOf);
     StoreFocuser(Record(), texts);
 }
+
+#include "moc_MyPropertyPage03.cpp"

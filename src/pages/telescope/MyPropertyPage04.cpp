@@ -44,3 +44,5 @@ void CMyPropertyPage04::Refresh()
     m_ui->results->SetRows(result.rows);
     m_ui->verdict->setText(ToQString(result.verdict));
 }
+
+#include "moc_MyPropertyPage04.cpp"

@@ -24,3 +24,5 @@ void CMyPropertyPage05::Analyse()
     m_ui->results->SetRows(CellRows(figures, g_nLanguage));
     m_ui->verdict->setText(ToQString(CellVerdict(figures, g_nLanguage)));
 }
+
+#include "moc_MyPropertyPage05.cpp"

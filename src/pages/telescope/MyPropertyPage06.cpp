@@ -43,3 +43,5 @@ TubeTexts CMyPropertyPage06::Texts() const
 void CMyPropertyPage06::Store() { StoreTube(Record(), Texts()); }
 
 void CMyPropertyPage06::Refresh() { m_ui->results->SetRows(TubeRows(Record(), Texts(), g_nLanguage)); }
+
+#include "moc_MyPropertyPage06.cpp"

@@ -77,3 +77,5 @@ void CMyPropertyPage07::ShowEyepiece(int index)
         m_ui->results->SetRows(std::move(rows));
     }
 }
+
+#include "moc_MyPropertyPage07.cpp"

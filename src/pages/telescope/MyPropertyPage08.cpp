@@ -52,3 +52,5 @@ void CMyPropertyPage08::Suggest()
         Changed();
     }
 }
+
+#include "moc_MyPropertyPage08.cpp"

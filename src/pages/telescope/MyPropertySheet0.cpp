@@ -49,3 +49,5 @@ CMyPropertySheet0::CMyPropertySheet0(COrrevaDoc& document, QWidget* parent)
     }
     OpenWithRoom({820, 640});
 }
+
+#include "moc_MyPropertySheet0.cpp"

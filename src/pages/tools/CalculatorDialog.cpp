@@ -22,3 +22,5 @@ void CCalculatorDialog::OnChangeInput()
     ShowText(m_ui->result, m_strResult);
     m_ui->result->setCursorPosition(0); // a long number is read from its first digit
 }
+
+#include "moc_CalculatorDialog.cpp"

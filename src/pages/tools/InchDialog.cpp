@@ -27,3 +27,5 @@ void CInchDialog::OnChangeInch()
     m_strInchResult = InchToMmText(m_strInch);
     ShowText(m_ui->inchResult, m_strInchResult);
 }
+
+#include "moc_InchDialog.cpp"

@@ -44,3 +44,5 @@ void CPolygonDialog::paintEvent(QPaintEvent* event)
     CopyValues();
     QDialog::paintEvent(event);
 }
+
+#include "moc_PolygonDialog.cpp"

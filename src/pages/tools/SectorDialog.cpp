@@ -43,3 +43,5 @@ void CSectorDialog::paintEvent(QPaintEvent* event)
     CopyValues();
     QDialog::paintEvent(event);
 }
+
+#include "moc_SectorDialog.cpp"

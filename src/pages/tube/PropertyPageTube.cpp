@@ -29,3 +29,5 @@ void CPropertyPageTube::BindReset(QAbstractButton* button, QLineEdit* edit, cons
     ::BindReset(
         button, edit, [this, field] { return ResetTubeMeasure(Record(), field); }, [this] { ShowChange(); });
 }
+
+#include "moc_PropertyPageTube.cpp"

@@ -86,3 +86,5 @@ void CPropertyPageTube1::Update()
     StoreTubeMeasures(Record(), texts, m_ui->solid->isChecked() ? kSolidTube : kTrussTube);
     ShowChange();
 }
+
+#include "moc_PropertyPageTube1.cpp"

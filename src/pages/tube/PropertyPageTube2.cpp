@@ -18,3 +18,5 @@ CPropertyPageTube2::CPropertyPageTube2(COrrevaDoc& doc, QWidget* parent)
 }
 
 CPropertyPageTube2::~CPropertyPageTube2() = default;
+
+#include "moc_PropertyPageTube2.cpp"

@@ -62,3 +62,5 @@ void CPropertyPageTube3::Update3()
     ShowGap();
     ShowChange();
 }
+
+#include "moc_PropertyPageTube3.cpp"

@@ -43,3 +43,5 @@ void CPropertySheetTube::ExchangeDesignPage()
     RemovePage(kDesignPage);
     AddDesignPage();
 }
+
+#include "moc_PropertySheetTube.cpp"
