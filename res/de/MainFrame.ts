@@ -156,6 +156,24 @@
         <translation>Kopien von Entwürfen, die nicht gesichert wurden</translation>
     </message>
     <message>
+        <source>Report as PDF...</source>
+        <translation>Bericht als PDF...</translation>
+    </message>
+    <message>
+        <source>The whole design on some pages: cross-section, tables, curves</source>
+        <comment>prompt</comment>
+        <translation>Der ganze Entwurf auf einigen Seiten: Querschnitt, Tabellen, Kurven</translation>
+    </message>
+    <message>
+        <source>Workshop sheets...</source>
+        <translation>Werkstattblätter...</translation>
+    </message>
+    <message>
+        <source>Masks, secondary, marks and tube in true scale, to cut and drill by</source>
+        <comment>prompt</comment>
+        <translation>Masken, Fangspiegel, Markierungen und Tubus im Maßstab 1:1, zum Schneiden und Bohren</translation>
+    </message>
+    <message>
         <source>Undo	Ctrl+Z</source>
         <translation>Rückgängig	Strg+Z</translation>
     </message>

@@ -3,6 +3,7 @@
 #include "app/KeyIndicators.h"
 #include "app/MyDialogBar.h"
 #include "app/Printing.h"
+#include "app/SaveReport.h"
 #include "app/ThreadLocale.h"
 #include "app/ToolWindows.h"
 #include "document/Commands.h"
@@ -274,6 +275,9 @@ void CMainFrame::RunDesktopCommand(int id)
         break;
     case command_id::kPrintSetup:
         SetUpPrinter(this);
+        break;
+    case command_id::kReportPdf:
+        SaveReport(m_document);
         break;
     case command_id::kExit:
         close();

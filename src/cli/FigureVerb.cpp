@@ -4,10 +4,10 @@
 #include "cli/Input.h"
 #include "cli/Output.h"
 #include "cli/VerbTools.h"
-#include "cli/report/FigureReport.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Language.h"
 #include "model/optics/ReadingSeries.h"
+#include "report/FigureReport.h"
 
 #include <vector>
 

@@ -36,7 +36,9 @@ const std::vector<Room> kRooms = {
     {"model/tools", {"lib"}},
     {"raytrace", {"model", "lib"}},
     {"drawing", {"raytrace", "model", "lib"}},
+    {"drawing/paper", {"drawing", "raytrace", "model", "lib"}},
     {"document", {"raytrace", "model", "lib"}},
+    {"report", {"drawing", "raytrace", "model", "lib"}},
     {"painting", {"drawing", "lib"}, true},
     {"views", {"painting", "document", "drawing", "raytrace", "model", "lib"}, true},
     {"pages/sheet", {"views", "painting", "document", "drawing", "model", "lib"}, true},
@@ -49,11 +51,10 @@ const std::vector<Room> kRooms = {
      {"pages/sheet", "views", "painting", "document", "drawing", "raytrace", "model", "lib"},
      true},
     {"app",
-     {"windows", "pages", "views", "painting", "document", "drawing", "raytrace", "model", "lib"},
+     {"windows", "pages", "views", "painting", "report", "document", "drawing", "raytrace", "model", "lib"},
      true},
     {"cli/words", {"lib"}},
-    {"cli/report", {"model", "lib"}},
-    {"cli", {"cli/words", "cli/report", "painting", "document", "drawing", "raytrace", "model", "lib"}, true},
+    {"cli", {"cli/words", "report", "painting", "document", "drawing", "raytrace", "model", "lib"}, true},
     {"programs", {"app", "cli", "lib"}, true},
 };
 

@@ -7,7 +7,7 @@
 namespace {
 
 constexpr std::uint32_t kTelescopeVerbs =
-    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck | kFigureVerb;
+    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck | kFigureVerb | kSheetsVerb;
 constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kCompare | kRescue;
 constexpr std::uint32_t kTableVerbs = kReport | kValues | kSweep | kCompare | kCheck | kFigureVerb |
                                       kRescue; ///< those that print tables in several forms
@@ -15,10 +15,17 @@ constexpr std::uint32_t kTableVerbs = kReport | kValues | kSweep | kCompare | kC
 constexpr VerbWords kVerbs[] = {
     {"report",
      kReport,
-     "[TELESCOPE] [--page PAGE]... [--details]",
+     "[TELESCOPE] [--page PAGE]... [--details] [-o OUT.pdf [--paper PAPER]]",
      "",
-     {"Prints the pages of results as the workbench shows them.",
-      "Gibt die Ergebnisseiten aus, wie die Werkbank sie zeigt."}},
+     {"Prints the pages of results as the workbench shows them; into a PDF, it lays them out on paper.",
+      "Gibt die Ergebnisseiten aus, wie die Werkbank sie zeigt; in eine PDF-Datei gibt es sie als Papier "
+      "aus."}},
+    {"sheets",
+     kSheetsVerb,
+     "[TELESCOPE] [--sheet SHEET]... [--paper PAPER] [--zones N] [--centre PERCENT] -o OUT.pdf",
+     "",
+     {"Lays workshop sheets out in true scale, to be printed at 100 %.",
+      "Gibt Werkstattblätter im Maßstab 1:1 aus, zum Drucken mit 100 %."_cp1252}},
     {"rays",
      kRays,
      "[TELESCOPE] --mode parallel|focal|pointer --pointer X,Y [--hide-lost] [--no-offset]",
@@ -145,10 +152,25 @@ constexpr OptionWords kOptions[] = {
      {"Lists what the check box Show Details shows, too.",
       "Nennt auch, was das Kästchen Details anzeigen zeigt."_cp1252},
      ""},
-    {"--zones", "N", kReport, {"The wanted number of zones.", "Die gewünschte Anzahl Zonen."_cp1252}, ""},
+    {"--sheet",
+     "SHEET",
+     kSheetsVerb,
+     {"A workshop sheet; without this option all of these.",
+      "Ein Werkstattblatt; ohne diese Option alle von diesen."_cp1252},
+     "couder-mask|everest|secondary|marks|tube"},
+    {"--paper",
+     "PAPER",
+     kReport | kSheetsVerb,
+     {"The paper; A4 when not given.", "Das Papier; ohne Angabe A4."},
+     "A4|A3|Letter|Tabloid"},
+    {"--zones",
+     "N",
+     kReport | kSheetsVerb,
+     {"The wanted number of zones.", "Die gewünschte Anzahl Zonen."_cp1252},
+     ""},
     {"--centre",
      "PERCENT",
-     kReport,
+     kReport | kSheetsVerb,
      {"The share of the area in the centre that no zone covers.",
       "Der Anteil der Fläche in der Mitte, den keine Zone bedeckt."_cp1252},
      ""},

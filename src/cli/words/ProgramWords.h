@@ -26,6 +26,7 @@ enum Verb : std::uint32_t {
     kCheck = 1024,
     kFigureVerb = 2048,
     kRescue = 4096,
+    kSheetsVerb = 8192,
 };
 
 struct VerbWords {

@@ -1,6 +1,6 @@
 #include "cli/words/ProgramWords.h"
 
-#include "cli/report/Report.h"
+#include "report/Report.h"
 
 #include <gtest/gtest.h>
 
