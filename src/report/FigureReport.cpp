@@ -123,7 +123,7 @@ std::string FigureReport(const Figure& figure, double D, TableFormat format)
     return text;
 }
 
-std::string SeriesFiguresReport(std::span<const SeriesFigure> figures, double D, TableFormat format)
+std::string SeriesFiguresReport(std::span<const NamedFigure> figures, double D, TableFormat format)
 {
     std::string text;
     if (format == TableFormat::kJson) {

@@ -11,11 +11,11 @@
 std::string FigureReport(const Figure& figure, double D, TableFormat format);
 
 /// The figure of one series of a file that holds several.
-struct SeriesFigure {
+struct NamedFigure {
     std::string name; ///< UTF-8
     Figure figure;
 };
 
 /// The figures of several series, one after the other: in text each below the line "# NAME", in csv with the
 /// series as a first column, in JSON an array of objects whose first key is the series.
-std::string SeriesFiguresReport(std::span<const SeriesFigure> figures, double D, TableFormat format);
+std::string SeriesFiguresReport(std::span<const NamedFigure> figures, double D, TableFormat format);
