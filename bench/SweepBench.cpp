@@ -2,9 +2,9 @@
 // for each design and keeps the whole table, and beside one process of the companion per design (ORREVA_CLI
 // names it). All give the same rows, or the run says so and fails.
 
-#include "cli/report/SweepTable.h"
 #include "document/OrrevaDoc.h"
 #include "lib/text/LogSink.h"
+#include "report/SweepTable.h"
 #include "support/SilentHost.h"
 
 #include <benchmark/benchmark.h>

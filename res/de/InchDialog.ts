@@ -2,7 +2,10 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
- <name>InchDialog</name>
- <message><source>Inch/mm Calculator</source><translation>Zoll/mm Rechner</translation></message>
+    <name>InchDialog</name>
+    <message>
+        <source>Inch/mm Calculator</source>
+        <translation>Zoll/mm Rechner</translation>
+    </message>
 </context>
 </TS>

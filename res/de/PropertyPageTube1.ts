@@ -2,15 +2,42 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
- <name>PropertyPageTube1</name>
- <message><source>Inner Diameter (mm)</source><translation>Innendurchmesser (mm)</translation></message>
- <message><source>Distance Mirror to rear End of Tube (mm)</source><translation>Abstand Hauptspiegel - hinteres Tubusende (mm)</translation></message>
- <message><source>Distance Focuser to front End of Tube (mm)</source><translation>Abstand Focuser - vorderes Tubusende (mm)</translation></message>
- <message><source>Wanted 100% illuminated field of view</source><translation>Gewünschtes 100% ausgeleuchtetes Bildfeld</translation></message>
- <message><source>Degrees</source><translation>Grad</translation></message>
- <message><source>Set to 0.6 degrees</source><translation>Auf 0,6 Grad setzen</translation></message>
- <message><source>Wanted 100% illuminated field of view in mm</source><translation>Gewünschtes 100% ausgeleuchtetes Bildfeld in mm</translation></message>
- <message><source>Tube</source><translation>Volltubus</translation></message>
- <message><source>Truss Tube</source><translation>Gitterrohrtubus</translation></message>
+    <name>PropertyPageTube1</name>
+    <message>
+        <source>Inner Diameter (mm)</source>
+        <translation>Innendurchmesser (mm)</translation>
+    </message>
+    <message>
+        <source>Distance Mirror to rear End of Tube (mm)</source>
+        <translation>Abstand Hauptspiegel - hinteres Tubusende (mm)</translation>
+    </message>
+    <message>
+        <source>Distance Focuser to front End of Tube (mm)</source>
+        <translation>Abstand Focuser - vorderes Tubusende (mm)</translation>
+    </message>
+    <message>
+        <source>Wanted 100% illuminated field of view</source>
+        <translation>Gewünschtes 100% ausgeleuchtetes Bildfeld</translation>
+    </message>
+    <message>
+        <source>Degrees</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>Set to 0.6 degrees</source>
+        <translation>Auf 0,6 Grad setzen</translation>
+    </message>
+    <message>
+        <source>Wanted 100% illuminated field of view in mm</source>
+        <translation>Gewünschtes 100% ausgeleuchtetes Bildfeld in mm</translation>
+    </message>
+    <message>
+        <source>Tube</source>
+        <translation>Volltubus</translation>
+    </message>
+    <message>
+        <source>Truss Tube</source>
+        <translation>Gitterrohrtubus</translation>
+    </message>
 </context>
 </TS>

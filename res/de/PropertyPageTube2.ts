@@ -2,7 +2,10 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
- <name>PropertyPageTube2</name>
- <message><source>Tube Thickness (mm)</source><translation>Wanddicke (mm)</translation></message>
+    <name>PropertyPageTube2</name>
+    <message>
+        <source>Tube Thickness (mm)</source>
+        <translation>Wanddicke (mm)</translation>
+    </message>
 </context>
 </TS>

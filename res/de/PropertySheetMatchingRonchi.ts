@@ -2,7 +2,10 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
- <name>CPropertySheetMatchingRonchi</name>
- <message><source>Properties</source><translation>Eigenschaftsblatt</translation></message>
+    <name>CPropertySheetMatchingRonchi</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaftsblatt</translation>
+    </message>
 </context>
 </TS>

@@ -39,6 +39,7 @@ constexpr Page kPages[] = {
      "Benutzeroberfläche/Reiter_Okulare"},
     {135, &HelpAddresses::manualBase, "Benutzeroberfläche/Reiter_Schwerpunkt",
      "Benutzeroberfläche/Reiter_Schwerpunkt"},
+    {151, &HelpAddresses::manualBase, "Benutzeroberfläche/Papier", "Benutzeroberfläche/Papier"},
 };
 
 QUrl LocalPage(const HelpAddresses& addresses, const char* page)

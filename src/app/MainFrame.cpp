@@ -4,6 +4,7 @@
 #include "app/MenuLetters.h"
 #include "app/MyDialogBar.h"
 #include "app/Printing.h"
+#include "app/SaveReport.h"
 #include "app/ThreadLocale.h"
 #include "app/ToolWindows.h"
 #include "document/Commands.h"
@@ -304,6 +305,9 @@ void CMainFrame::RunDesktopCommand(int id)
         break;
     case command_id::kPrintSetup:
         SetUpPrinter(this);
+        break;
+    case command_id::kReportPdf:
+        SaveReport(m_document);
         break;
     case command_id::kExit:
         close();

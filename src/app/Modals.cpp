@@ -1,6 +1,7 @@
 #include "app/Modals.h"
 
 #include "document/OrrevaDoc.h"
+#include "pages/dialogs/WorkshopSheetsDialog.h"
 #include "pages/optics/ArtificialStarDialog.h"
 #include "pages/optics/FieldSimulationDlg.h"
 #include "pages/optics/PropertySheetCouder.h"
@@ -51,6 +52,7 @@ constexpr Entry kEntries[] = {
     {Modal::InchCalculator, RunTool<CInchDialog>},
     {Modal::PolygonCalculator, RunTool<CPolygonDialog>},
     {Modal::SectorCalculator, RunTool<CSectorDialog>},
+    {Modal::WorkshopSheets, Run<CWorkshopSheetsDialog>},
 };
 
 } // namespace

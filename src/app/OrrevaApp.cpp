@@ -1,5 +1,6 @@
 #include "app/OrrevaApp.h"
 
+#include "app/Browser.h"
 #include "app/HelpPages.h"
 #include "app/MainFrame.h"
 #include "lib/text/CodePage.h"
@@ -35,7 +36,7 @@ void OpenHelp(long data, unsigned command)
     line.Format("COrrevaApp::WinHelp(%ld, %d)", data, static_cast<int>(command));
     LogText(line);
     const QUrl page = HelpPage(data, command, BuiltHelpAddresses(g_nLanguage));
-    const bool opened = QDesktopServices::openUrl(page);
+    const bool opened = QDesktopServices::openUrl(page) && HasBrowser();
     const bool missing = page.isLocalFile() && !QFileInfo::exists(page.toLocalFile());
     if ((!opened || missing) && g_helpDocument != nullptr) {
         g_helpDocument->Status().Say(FromQString(UnopenedHelpText(page, g_nLanguage)));

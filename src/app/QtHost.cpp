@@ -8,6 +8,7 @@
 #include "lib/files/FileQueries.h"
 #include "lib/platform/Debugger.h"
 #include "lib/text/Language.h"
+#include "model/analysis/EyepiecePlaces.h"
 #include "pages/dialogs/EarlierDesignsDialog.h"
 #include "pages/dialogs/QuickNewDialog.h"
 #include "pages/dialogs/RaytracingSettingsDialog.h"
@@ -255,7 +256,7 @@ void CQtHost::ShowIllumination(const IlluminationStops& stops, double wanted)
     QWidget* const owner = Owner();
     if (m_illumination == nullptr || m_illumination->parentWidget() != owner) {
         delete m_illumination;
-        m_illumination = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").entries, owner);
+        m_illumination = new CIlluminationWindow(LoadEyepieces(FindEyepieces().c_str()).entries, owner);
         QObject::connect(
             m_illumination, &CIlluminationWindow::FileMade, m_illumination,
             [this](const QString& path, const QByteArray& bytes) { ExportFile(*m_document, path, bytes); });

@@ -12,6 +12,7 @@
 #include "lib/text/CodePage.h"
 #include "lib/text/FormatText.h"
 #include "lib/text/Language.h"
+#include "model/analysis/EyepiecePlaces.h"
 #include "painting/QtText.h"
 #include "windows/CompareWindow.h"
 #include "windows/DesignCheckField.h"
@@ -133,7 +134,8 @@ void CToolWindows::Follow()
 void CToolWindows::OpenIllumination()
 {
     if (m_illuminationWindow == nullptr) {
-        m_illuminationWindow = new CIlluminationWindow(LoadEyepieces("eyepiece.dat").entries, &m_frame);
+        m_illuminationWindow =
+            new CIlluminationWindow(LoadEyepieces(FindEyepieces().c_str()).entries, &m_frame);
         connect(
             m_illuminationWindow, &CIlluminationWindow::FileMade, this,
             [this](const QString& path, const QByteArray& bytes) { ExportFile(m_document, path, bytes); });

@@ -10,85 +10,15 @@
 
 namespace {
 
-constexpr std::uint32_t kTelescopeVerbs =
-    kReport | kRays | kDraw | kSaveVerb | kExport | kValues | kSweep | kCheck | kFigureVerb;
-constexpr std::uint32_t kAllVerbs = kTelescopeVerbs | kImport | kCalc | kCompare | kRescue;
-constexpr std::uint32_t kTableVerbs = kReport | kValues | kSweep | kCompare | kCheck | kFigureVerb |
-                                      kRescue; ///< those that print tables in several forms
-
-struct VerbName {
-    std::string_view name;
-    Verb verb;
-};
-
-constexpr VerbName kVerbs[] = {{"report", kReport},   {"rays", kRays},     {"draw", kDraw},
-                               {"save", kSaveVerb},   {"import", kImport}, {"export", kExport},
-                               {"calc", kCalc},       {"values", kValues}, {"sweep", kSweep},
-                               {"compare", kCompare}, {"check", kCheck},   {"figure", kFigureVerb},
-                               {"rescue", kRescue}};
-
-struct Option {
-    std::string_view name;
-    bool takesValue;
-    std::uint32_t verbs;
-};
-
-constexpr Option kOptions[] = {
-    {"--help", false, kAllVerbs},
-    {"--version", false, kAllVerbs},
-    {"--language", true, kAllVerbs},
-    {"-o", true, kAllVerbs},
-    {"--format", true, kTableVerbs},
-    {"--diameter", true, kTelescopeVerbs},
-    {"--focal-length", true, kTelescopeVerbs},
-    {"--title", true, kTelescopeVerbs},
-    {"--set", true, kTelescopeVerbs},
-    {"--page", true, kReport},
-    {"--details", false, kReport},
-    {"--zones", true, kReport},
-    {"--centre", true, kReport},
-    {"--edge", true, kReport},
-    {"--template", true, kReport},
-    {"--method", true, kReport},
-    {"--source", true, kReport | kFigureVerb | kDraw},
-    {"--readings", true, kFigureVerb | kDraw},
-    {"--conic", true, kFigureVerb | kDraw},
-    {"--wavelength", true, kFigureVerb | kDraw},
-    {"--only", true, kValues},
-    {"--vary", true, kSweep},
-    {"--show", true, kSweep},
-    {"--jobs", true, kSweep},
-    {"--mode", true, kRays | kDraw},
-    {"--pointer", true, kRays | kDraw},
-    {"--hide-lost", false, kRays},
-    {"--no-offset", false, kRays | kDraw},
-    {"--picture", true, kDraw},
-    {"--size", true, kDraw},
-    {"--zoom", true, kDraw},
-    {"--scroll", true, kDraw},
-    {"--extended", false, kDraw},
-    {"--box-and-cage", false, kDraw},
-    {"--seed", true, kDraw},
-    {"--type", true, kDraw},
-    {"--thickness", true, kDraw},
-    {"--value", true, kDraw},
-};
-
-const Option* FindOption(std::string_view word)
-{
-    const auto found = std::ranges::find(kOptions, word, &Option::name);
-    return found == std::end(kOptions) ? nullptr : found;
-}
-
 bool LooksLikeOption(std::string_view word) { return word.size() > 1 && word.front() == '-'; }
 
 /// The first word that is neither an option nor the value of one; the number of words if there is none.
 std::size_t FindVerb(const std::vector<std::string>& words)
 {
     for (std::size_t i = 0; i < words.size(); ++i) {
-        const Option* const option = FindOption(words[i]);
+        const OptionWords* const option = FindOptionWords(words[i]);
         if (option != nullptr) {
-            i += option->takesValue ? 1 : 0;
+            i += option->value.empty() ? 0U : 1U;
         } else if (!LooksLikeOption(words[i])) {
             return i;
         }
@@ -123,8 +53,8 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments)
     const std::size_t verbAt = FindVerb(arguments);
     const bool hasVerb = verbAt < arguments.size();
     if (hasVerb) {
-        const auto verb = std::ranges::find(kVerbs, arguments[verbAt], &VerbName::name);
-        if (verb == std::end(kVerbs)) {
+        const VerbWords* const verb = FindVerbWords(arguments[verbAt]);
+        if (verb == nullptr) {
             UsageError("unknown verb", arguments[verbAt]);
         }
         words.verb = verb->verb;
@@ -136,9 +66,9 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments)
         if (i == verbAt) {
             continue;
         }
-        const Option* const option = optionsEnded ? nullptr : FindOption(word);
+        const OptionWords* const option = optionsEnded ? nullptr : FindOptionWords(word);
         const bool belongs = option != nullptr && (option->verbs & words.verb) != 0;
-        if (belongs && option->takesValue) {
+        if (belongs && !option->value.empty()) {
             if (i + 1 == arguments.size()) {
                 UsageError("a value is missing behind", word);
             }

@@ -1,28 +1,13 @@
 #pragma once
 
+#include "cli/words/ProgramWords.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
-
-/// What the command line may do; a set of them says where an option belongs.
-enum Verb : std::uint32_t {
-    kReport = 1,
-    kRays = 2,
-    kDraw = 4,
-    kSaveVerb = 8,
-    kImport = 16,
-    kExport = 32,
-    kCalc = 64,
-    kValues = 128,
-    kSweep = 256,
-    kCompare = 512,
-    kCheck = 1024,
-    kFigureVerb = 2048,
-    kRescue = 4096,
-};
 
 /// The command line, taken apart: the verb, the words that are no options, and the options in their order.
 struct CommandLine {

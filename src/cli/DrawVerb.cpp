@@ -1,6 +1,7 @@
 #include "cli/DrawVerb.h"
 
 #include "cli/Output.h"
+#include "cli/Toolkit.h"
 #include "drawing/FieldPicture.h"
 #include "drawing/IlluminationPicture.h"
 #include "drawing/MirrorPanelPicture.h"
@@ -16,12 +17,8 @@
 #include "painting/PictureFile.h"
 #include "painting/QtText.h"
 
-#include <QGuiApplication>
-
 #include <cerrno>
-#include <clocale>
 #include <ctime>
-#include <memory>
 
 namespace {
 
@@ -121,23 +118,6 @@ QString TitleOf(const COrrevaData& record)
 {
     const QString title = ToQString(record.GetTitle().GetText());
     return title.isEmpty() ? "Orreva" : title;
-}
-
-/// Fonts need an application of the toolkit; this one needs no screen. Null if there is one already.
-std::unique_ptr<QGuiApplication> OpenToolkit()
-{
-    if (QCoreApplication::instance() != nullptr) {
-        return nullptr;
-    }
-    static char name[] = "orreva-cli";
-    static char* arguments[] = {name, nullptr};
-    static int count = 1;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Warnings of the toolkit about the desktop that is not there are none of ours.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    auto application = std::make_unique<QGuiApplication>(count, arguments);
-    std::setlocale(LC_NUMERIC, "C"); // the toolkit follows the user's language
-    return application;
 }
 
 } // namespace

@@ -4,10 +4,10 @@
 #include "cli/Input.h"
 #include "cli/Output.h"
 #include "cli/VerbTools.h"
-#include "cli/report/FigureReport.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Language.h"
 #include "model/optics/ReadingSeries.h"
+#include "report/FigureReport.h"
 
 #include <vector>
 
@@ -55,15 +55,15 @@ std::optional<Figure> FigureOf(const FigureWords& words, std::string_view text, 
 }
 
 /// A file that is kept beside a design may hold several series: each is read as a file of its own.
-std::optional<std::vector<SeriesFigure>> FiguresOfSeries(const FigureWords& words, std::string_view text,
-                                                         COrrevaData& record)
+std::optional<std::vector<NamedFigure>> FiguresInFile(const FigureWords& words, std::string_view text,
+                                                      COrrevaData& record)
 {
     const double D = record.GetMirrorDiameter();
     const SeriesImport import = ImportSeries(text, D / 2, "");
     if (!IsWithoutFault(words, import.fault)) {
         return std::nullopt;
     }
-    std::vector<SeriesFigure> figures;
+    std::vector<NamedFigure> figures;
     for (const ReadingSeries& series : import.series) {
         const std::vector<ZoneMean> zones = ReadSeries(series, D / 2).zones;
         const auto figure = ReduceFigure(D, record.GetFocalLength(), zones, words.settings);
@@ -119,7 +119,7 @@ int FigureVerb(const CommandLine& words)
     }
     const double D = record.GetMirrorDiameter();
     if (SeriesCount(*text) > 1) {
-        const auto figures = FiguresOfSeries(figureWords, *text, record);
+        const auto figures = FiguresInFile(figureWords, *text, record);
         return figures ? WriteOutput(OutputPath(words), SeriesFiguresReport(*figures, D, format)) : kFailed;
     }
     const auto figure = FigureOf(figureWords, *text, record);

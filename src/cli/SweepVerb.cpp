@@ -1,8 +1,8 @@
 #include "cli/Output.h"
 #include "cli/VerbTools.h"
 #include "cli/Verbs.h"
-#include "cli/report/SweepTable.h"
 #include "lib/text/Numbers.h"
+#include "report/SweepTable.h"
 
 #include <algorithm>
 #include <charconv>

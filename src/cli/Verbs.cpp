@@ -6,14 +6,16 @@
 #include "cli/ExchangeVerbs.h"
 #include "cli/FigureVerb.h"
 #include "cli/Output.h"
+#include "cli/PaperOutput.h"
 #include "cli/RaysVerb.h"
 #include "cli/RescueVerb.h"
 #include "cli/VerbTools.h"
-#include "cli/report/Report.h"
+#include "document/FoucaultReadings.h"
 #include "document/TelescopeFile.h"
 #include "drawing/SectionZoom.h"
 #include "lib/text/CodePage.h"
 #include "lib/text/Numbers.h"
+#include "report/ReportOnPaper.h"
 
 #include <limits>
 
@@ -65,15 +67,43 @@ ZoneOptions ZonesOf(const CommandLine& words)
     return zones;
 }
 
+/// The report of the document's design as a PDF file.
+int PaperReportOf(const CommandLine& words, std::span<const ReportPage* const> pages,
+                  const ZoneOptions& zones, COrrevaDoc& document)
+{
+    const std::string path = FileWord(words, 0).value_or("");
+    FoucaultReadings readings;
+    if (!path.empty() && path != "-") {
+        readings.Open(path, g_nLanguage);
+    }
+    ReportDesign design(*document.active_record);
+    ReportContext context = design.Context(g_nLanguage);
+    context.details = words.Has("--details");
+    context.zones = zones;
+    const ReportExtras extras{DateOfDesign(path, g_nLanguage), nullptr, &readings.Book()};
+    return WritePaper(OutputPath(words), ReportOnPaper(design, pages, context, extras, PaperOf(words)));
+}
+
 int Report(const CommandLine& words)
 {
     const std::vector<const ReportPage*> pages = PagesOf(words);
     const ZoneOptions zones = ZonesOf(words);
     const TableFormat format = FormatOf(words);
+    const bool onPaper = IsPaperFile(OutputPath(words));
+    if (onPaper && words.Has("--format")) {
+        UsageError("a PDF file does not take", "--format");
+    }
+    if (!onPaper && words.Has("--paper")) {
+        UsageError("paper needs a PDF file behind -o:", "--paper");
+    }
+    PaperOf(words);
     const auto file = FileWord(words, 0);
     TerminalDocument terminal;
     if (!MakeTelescope(words, file, terminal.host, terminal.document)) {
         return kFailed;
+    }
+    if (onPaper) {
+        return PaperReportOf(words, pages, zones, terminal.document);
     }
     ReportContext context = ContextOf(terminal);
     context.details = words.Has("--details");
@@ -290,11 +320,13 @@ struct Entry {
     int (*run)(const CommandLine& words);
 };
 
-constexpr Entry kEntries[] = {{kReport, Report},       {kRays, Rays},         {kDraw, Draw},
-                              {kSaveVerb, Save},       {kImport, Import},     {kExport, Export},
-                              {kCalc, Calc},           {kValues, ValuesVerb}, {kSweep, SweepVerb},
-                              {kCompare, CompareVerb}, {kCheck, CheckVerb},   {kFigureVerb, FigureVerb},
-                              {kRescue, Rescue}};
+constexpr Entry kEntries[] = {{kReport, Report},   {kRays, Rays},
+                              {kDraw, Draw},       {kSaveVerb, Save},
+                              {kImport, Import},   {kExport, Export},
+                              {kCalc, Calc},       {kValues, ValuesVerb},
+                              {kSweep, SweepVerb}, {kCompare, CompareVerb},
+                              {kCheck, CheckVerb}, {kFigureVerb, FigureVerb},
+                              {kRescue, Rescue},   {kSheetsVerb, SheetsVerb}};
 
 } // namespace
 

@@ -11,3 +11,4 @@ int ValuesVerb(const CommandLine& words);
 int SweepVerb(const CommandLine& words);
 int CompareVerb(const CommandLine& words);
 int CheckVerb(const CommandLine& words);
+int SheetsVerb(const CommandLine& words);

@@ -39,6 +39,8 @@ constexpr Command kCommands[] = {
     Desktop(id::kRecentFile, Never),
     Desktop(id::kExit, Always),
     {id::kEarlierDesigns, Always, &Doc::OnEarlierDesigns},
+    Desktop(id::kReportPdf, Loaded),
+    Opens(id::kWorkshopSheets, Loaded, Modal::WorkshopSheets),
     {id::kUndo, Undoable, &Doc::OnUndo},
     {id::kRedo, Redoable, &Doc::OnRedo},
     {id::kProperties, Loaded, &Doc::OnProperties},

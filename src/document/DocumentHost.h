@@ -44,6 +44,7 @@ enum class Modal {
     InchCalculator,
     PolygonCalculator,
     SectorCalculator,
+    WorkshopSheets,
 };
 
 /// What a document asks of its desktop. The window program implements it with its toolkit, the command-line

@@ -25,6 +25,14 @@ inline constexpr FileDialog kExportFta{
     "untitled.mir",
     {"Export Foucault Test Analysis 2.0B Data", "Foucault Test Analysis 2.0B Daten exportieren"}};
 
+inline constexpr Bilingual kPaperFilter{"PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*||",
+                                        "PDF-Dateien (*.pdf)|*.pdf|Alle Dateien (*.*)|*.*||"};
+/// A file of pages; the proposed name must outlive the dialog.
+constexpr FileDialog PaperMask(int language, const char* name, const Bilingual& title)
+{
+    return {true, kPaperFilter.In(language), "pdf", name, title};
+}
+
 /// The old format's mask is the one of the toolkit's document template, in the language of the program.
 inline constexpr Bilingual kOldFormatFilter{
     "File Type Orreva (*.orreva)|*.orreva|All Files (*.*)|*.*||",

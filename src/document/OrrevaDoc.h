@@ -95,6 +95,9 @@ public:
 
     /// Writes a file of the user's and says so, or what failed.
     bool WriteFile(StatusTopic topic, const std::string& path, std::string_view bytes);
+    /// Asks where to, and writes an export there; a failure is told by the message `error` too. Nothing for
+    /// an export that cannot be made, which fails like a file that cannot be written.
+    void WriteExport(const FileDialog& dialog, const std::optional<std::string>& text, const char* error);
     /// Where copies of designs are kept that would else be lost; null (as at the start) for nowhere.
     void KeepCopies(RescueCopies* copies) { m_files.KeepCopies(copies); }
     /// Brings the live copy up to date with the record; to be called within a second of each change.
@@ -150,7 +153,6 @@ private:
     void TellSave(StatusTopic topic);
     void TellCopies();
     RescueCopies* Copies() const { return m_files.Copies(); }
-    void WriteExport(const FileDialog& dialog, const std::optional<std::string>& text, const char* error);
 
     bool AskYesNo(const char* text) override { return m_host.AskYesNo(text); }
     void ShowMessage(const char* text) override { m_host.ShowMessage(text); }

@@ -6,6 +6,7 @@
 #include "lib/files/Descriptors.h"
 #include "lib/files/FileBytes.h"
 #include "lib/files/FileQueries.h"
+#include "lib/platform/DataFolders.h"
 #include "model/record/OrrevaData.h"
 
 #include <algorithm>
@@ -16,7 +17,6 @@
 #include <utility>
 
 #include <fcntl.h>
-#include <pwd.h>
 #include <sys/file.h>
 #include <unistd.h>
 
@@ -28,15 +28,6 @@ constexpr const char* kDesignEnding = ".orreva.xml";
 constexpr const char* kNoteEnding = ".note";
 constexpr const char* kLockEnding = ".lock";
 constexpr std::size_t kLongestNote = 65536;
-
-std::string HomeOfUser()
-{
-    if (const char* const home = std::getenv("HOME"); home != nullptr && *home == '/') {
-        return home;
-    }
-    const passwd* const user = getpwuid(geteuid());
-    return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : "";
-}
 
 /// A name for a copy that no other one has, on this machine or another with the same home.
 std::string NewId(std::int64_t nanoseconds)

@@ -12,6 +12,7 @@
 #include <QLineF>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPolygonF>
 #include <QRectF>
 
@@ -25,23 +26,25 @@ constexpr double kAscent = 1854.0;
 constexpr double kLine = 1854.0 + 434.0;
 constexpr double kEm = 2048.0;
 
-constexpr double kFullTurn = 360.0 * 16; // the toolkit counts sixteenths of a degree
+constexpr double kDegree = 16; // the toolkit counts sixteenths of a degree
+constexpr double kFullTurn = 360 * kDegree;
 
 // A text that is longer than any page is wide is cut.
 constexpr std::size_t kLongestText = 10000;
 
-// Curves beyond this are no pictures any more; the toolkit is spared them.
+// Curves beyond this are no pictures any more; the toolkit is spared them. On paper a page alone is 43180
+// high.
 constexpr double kFarthest = 32000.0;
+constexpr double kFarthestOnPaper = 1e7;
 
 QColor ToColor(Colour colour) { return QColor(colour.red, colour.green, colour.blue); }
 
-double ClampToDevice(double place) { return std::clamp(place, -kFarthest, kFarthest); }
-
 /// The outline runs through the middles of the box's outer pixels.
-QRectF OutlineBox(const PixelRect& box)
+QRectF OutlineBox(const PixelRect& box, double farthest)
 {
-    return QRectF(QPointF(ClampToDevice(box.left), ClampToDevice(box.top)),
-                  QPointF(ClampToDevice(box.right - 1.0), ClampToDevice(box.bottom - 1.0)));
+    const auto clamp = [farthest](double place) { return std::clamp(place, -farthest, farthest); };
+    return QRectF(QPointF(clamp(box.left), clamp(box.top)),
+                  QPointF(clamp(box.right - 1.0), clamp(box.bottom - 1.0)));
 }
 
 /// The toolkit's angle of the direction from the box's centre to `to`.
@@ -56,8 +59,8 @@ double AngleOf(const QRectF& box, Pixel to)
 
 /// A stretch of an outline in the toolkit's angles.
 struct AngleSpan {
-    int start;
-    int length;
+    double start;
+    double length;
 };
 
 AngleSpan AngleSpanOf(const QRectF& box, Pixel from, Pixel to)
@@ -67,7 +70,29 @@ AngleSpan AngleSpanOf(const QRectF& box, Pixel from, Pixel to)
     if (length <= 0) {
         length += kFullTurn;
     }
-    return {TruncToInt32(std::round(start)), TruncToInt32(std::round(length))};
+    return {start, length};
+}
+
+/// The stretch of an outline in short curves, parted at whole angles, so that the outermost points are among
+/// their ends: the toolkit's own, a quarter long, leave a circle of 400 mm by a tenth of a millimetre.
+QPainterPath FinePath(const QRectF& box, const AngleSpan& stretch)
+{
+    constexpr double kPart = 15 * kDegree;
+    const double turn = std::acos(-1.0) / 180 / kDegree;
+    const QPointF centre = box.center();
+    const auto at = [&](double angle, double along) {
+        return QPointF(centre.x() + box.width() / 2 * (std::cos(angle) - along * std::sin(angle)),
+                       centre.y() - box.height() / 2 * (std::sin(angle) + along * std::cos(angle)));
+    };
+    const double end = stretch.start + stretch.length;
+    QPainterPath path(at(stretch.start * turn, 0));
+    for (double from = stretch.start; from < end;) {
+        const double to = std::min((std::floor(from / kPart) + 1) * kPart, end);
+        const double reach = 4.0 / 3 * std::tan((to - from) * turn / 4);
+        path.cubicTo(at(from * turn, reach), at(to * turn, -reach), at(to * turn, 0));
+        from = to;
+    }
+    return path;
 }
 
 std::int32_t PixelSize(std::int32_t lineHeight)
@@ -85,11 +110,14 @@ QStringList Families()
 
 } // namespace
 
-PainterSurface::PainterSurface(QPainter& device, std::int32_t surfaceWidth, std::int32_t surfaceHeight)
+PainterSurface::PainterSurface(QPainter& device, std::int32_t surfaceWidth, std::int32_t surfaceHeight,
+                               std::int32_t vectorPen)
     : m_painter(device), m_width(surfaceWidth), m_height(surfaceHeight),
-      m_isRaster(device.paintEngine() != nullptr && device.paintEngine()->type() == QPaintEngine::Raster)
+      m_isRaster(vectorPen == 1 && device.paintEngine() != nullptr &&
+                 device.paintEngine()->type() == QPaintEngine::Raster),
+      m_vectorPen(vectorPen)
 {
-    m_painter.setRenderHint(QPainter::Antialiasing, false);
+    m_painter.setRenderHint(QPainter::Antialiasing, IsPaper()); // for a preview on the screen
 }
 
 void PainterSurface::FillRect(const PixelRect& rect, Colour colour)
@@ -126,6 +154,17 @@ void PainterSurface::Line(Pixel from, Pixel to, Colour colour)
     }
 }
 
+double PainterSurface::Farthest() const { return IsPaper() ? kFarthestOnPaper : kFarthest; }
+
+QPen PainterSurface::VectorPen(Colour colour, std::int32_t penWidth) const
+{
+    QPen pen(ToColor(colour), m_isRaster ? penWidth : penWidth * m_vectorPen);
+    if (IsPaper()) {
+        pen.setCapStyle(Qt::FlatCap); // a line of 100 mm is not one of 100.2
+    }
+    return pen;
+}
+
 void PainterSurface::VectorLine(Pixel from, Pixel to, Colour colour)
 {
     const QPointF start(from.x + 0.5, from.y + 0.5);
@@ -134,7 +173,7 @@ void PainterSurface::VectorLine(Pixel from, Pixel to, Colour colour)
                                   {static_cast<double>(m_width), static_cast<double>(m_height)});
     if (part) {
         const QPointF way = end - start;
-        m_painter.setPen(QPen(ToColor(colour), 1));
+        m_painter.setPen(VectorPen(colour));
         m_painter.drawLine(QLineF(start + way * part->enter, start + way * part->leave));
     }
 }
@@ -157,36 +196,48 @@ void PainterSurface::VectorPolygon(std::span<const Pixel> points, Colour pen, Co
 {
     QPolygonF polygon;
     for (const Pixel point : points) {
-        polygon << QPointF(ClampToDevice(point.x) + 0.5, ClampToDevice(point.y) + 0.5);
+        const auto clamp = [&](double place) { return std::clamp(place, -Farthest(), Farthest()); };
+        polygon << QPointF(clamp(point.x) + 0.5, clamp(point.y) + 0.5);
     }
-    m_painter.setPen(QPen(ToColor(pen), 1));
+    m_painter.setPen(VectorPen(pen));
     m_painter.setBrush(ToColor(brush));
     m_painter.drawPolygon(polygon);
 }
 
 void PainterSurface::Ellipse(const PixelRect& box, Colour pen, std::int32_t penWidth)
 {
-    m_painter.setPen(QPen(ToColor(pen), penWidth));
+    m_painter.setPen(VectorPen(pen, penWidth));
     m_painter.setBrush(Qt::NoBrush);
-    m_painter.drawEllipse(OutlineBox(box));
+    const QRectF outline = OutlineBox(box, Farthest());
+    if (IsPaper()) {
+        m_painter.drawPath(FinePath(outline, {0, kFullTurn}));
+    } else {
+        m_painter.drawEllipse(outline);
+    }
 }
 
 void PainterSurface::Arc(const PixelRect& box, Pixel from, Pixel to, Colour pen)
 {
-    const QRectF outline = OutlineBox(box);
+    const QRectF outline = OutlineBox(box, Farthest());
     const AngleSpan stretch = AngleSpanOf(outline, from, to);
-    m_painter.setPen(QPen(ToColor(pen), 1));
+    m_painter.setPen(VectorPen(pen));
     m_painter.setBrush(Qt::NoBrush);
-    m_painter.drawArc(outline, stretch.start, stretch.length);
+    if (!IsPaper()) {
+        m_painter.drawArc(outline, TruncToInt32(std::round(stretch.start)),
+                          TruncToInt32(std::round(stretch.length)));
+        return;
+    }
+    m_painter.drawPath(FinePath(outline, stretch));
 }
 
 void PainterSurface::Chord(const PixelRect& box, Pixel from, Pixel to, Colour pen, Colour brush)
 {
-    const QRectF outline = OutlineBox(box);
+    const QRectF outline = OutlineBox(box, Farthest());
     const AngleSpan stretch = AngleSpanOf(outline, from, to);
-    m_painter.setPen(QPen(ToColor(pen), 1));
+    m_painter.setPen(VectorPen(pen));
     m_painter.setBrush(ToColor(brush));
-    m_painter.drawChord(outline, stretch.start, stretch.length);
+    m_painter.drawChord(outline, TruncToInt32(std::round(stretch.start)),
+                        TruncToInt32(std::round(stretch.length)));
 }
 
 void PainterSurface::Image(Pixel at, std::int32_t imageWidth, std::span<const Colour> pixels)

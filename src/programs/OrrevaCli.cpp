@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Output.h"
 #include "cli/Verbs.h"
+#include "cli/words/HelpText.h"
 #include "lib/text/Language.h"
 #include "lib/text/LogSink.h"
 
@@ -17,56 +18,15 @@
 
 namespace {
 
-constexpr const char* kHelp = R"(orreva-cli: the Orreva workbench without a window
-
-  orreva-cli report [TELESCOPE] [--page PAGE]... [--details]
-  orreva-cli rays   [TELESCOPE] --mode parallel|focal|pointer --pointer X,Y [--hide-lost] [--no-offset]
-  orreva-cli draw   [TELESCOPE] --picture PICTURE --size WxH -o OUT.png|.svg|.pdf
-  orreva-cli save   [TELESCOPE] [-o FILE]
-  orreva-cli import OLD [-o FILE]
-  orreva-cli export oslo|fta [TELESCOPE] [-o OUT]
-  orreva-cli values [TELESCOPE] [--only NAME]...
-  orreva-cli check  [TELESCOPE]
-  orreva-cli compare FILE FILE
-  orreva-cli sweep  [TELESCOPE] --vary KEY=FROM:TO:COUNT... [--show NAME]... [--jobs N]
-  orreva-cli calc   [EXPRESSION]...
-  orreva-cli figure [TELESCOPE] --readings FILE [--source moving|fixed] [--conic K] [--wavelength NM]
-                    [--format text|csv|json]
-  orreva-cli rescue [NUMBER] [-o FILE]
-
-TELESCOPE is a design FILE, or the telescope of the quick New dialog with any of --diameter MM,
---focal-length MM and --title TEXT; then --set KEY=VALUE, any number of times (VALUE unset: not set).
-
-PAGE is summary, primary, secondary, tube, focuser, cell, eyepieces, balance, foucault, ronchi, star, marks or
-field, all of them without --page; or illumination. For foucault: --zones N, --centre PERCENT, --edge MM,
---template couder|everest, --method carlin|couder|texereau, --source moving|fixed.
-
-PICTURE is section (--mode, --pointer, --zoom 1..5, --scroll X,Y, --extended, --no-offset, --box-and-cage),
-summary, tube-panel, mirror-panel, field, ronchi (--seed N), polygon (--type I --diameter MM --thickness MM),
-sector (--type I --diameter MM --value V), illumination, secondary-choice or wavefront (--readings FILE, --source,
---conic, --wavelength).
-
-values prints every number of the design, or each NAME, with its unit; check tells what is wrong with it, and
-compare what differs between two. sweep prints a table of designs: one to four --vary, the first running slowest.
-report, values, check, compare and sweep take --format text|csv|json.
-
-calc answers each expression, or each line of standard input, with one line.
-
-rescue lists the copies of designs that were left unsaved, newest first; with a NUMBER it writes that copy.
-
-Every verb takes --language en|de and -o FILE; --help and --version stand alone or behind a verb.
-Exit status: 0 done, 1 a file or an expression failed, 2 the command line is not understood, 3 check found
-errors or warnings.
-)";
-
 int Run(const std::vector<std::string>& arguments)
 {
     const CommandLine words = ParseCommandLine(arguments);
-    if (words.help || words.version) {
-        return WriteOutput("", words.help ? kHelp : std::string("orreva-cli ") + kVersion + "\n");
-    }
     if (const auto language = words.Value("--language")) {
         g_nLanguage = static_cast<int>(ChoiceOf("--language", *language, {"en", "de"}));
+    }
+    if (words.help || words.version) {
+        const ProgramWords& program = CompanionWords();
+        return WriteOutput("", words.help ? HelpText(program, g_nLanguage) : VersionText(program, kVersion));
     }
     return RunVerb(words);
 }

@@ -33,6 +33,7 @@ constexpr const char* kSchemes[] = {"https", "file"};
 AppFixture::AppFixture(int language)
 {
     qputenv("XDG_STATE_HOME", QFile::encodeName(stateFolder.path()));
+    qputenv("BROWSER", "true"); // the one that stands in for it
     g_browser = std::make_unique<Browser>(helpPages);
     for (const char* const scheme : kSchemes) {
         QDesktopServices::setUrlHandler(scheme, g_browser.get(), "Open");

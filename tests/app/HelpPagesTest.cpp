@@ -39,6 +39,7 @@ TEST(HelpPages, EachContextHasItsPage)
          "Benutzeroberfläche/Reiter_Okulare"},
         {135, "https://example.org/wiki/Handbuch/Benutzeroberfläche/Reiter_Schwerpunkt",
          "Benutzeroberfläche/Reiter_Schwerpunkt"},
+        {151, "https://example.org/wiki/Handbuch/Benutzeroberfläche/Papier", "Benutzeroberfläche/Papier"},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(QString::fromUtf8(row.web), HelpPage(row.data, 1, OnTheWeb()).toString());

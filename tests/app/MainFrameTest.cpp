@@ -86,6 +86,8 @@ constexpr MenuRow kMenuTexts[] = {
     {57606, "Print Setup", "Drucker&einrichtung..."},
     {57616, "Letzte Datei", "Letzte Datei"},
     {33003, "Earlier designs...", "Frühere Entwürfe..."},
+    {33061, "Report as PDF...", "Bericht als PDF..."},
+    {33062, "Workshop sheets...", "Werkstattblätter..."},
     {33001, "Undo\tCtrl+Z", "Rückgängig\tStrg+Z"},
     {33002, "Redo\tCtrl+Y", "Wiederholen\tStrg+Y"},
     {32772, "Properties\tStrg+E", "Eigenschaften\tStrg+E"},

@@ -32,6 +32,29 @@ TEST_F(MisleadingLabels, TheSectorsListTheFieldsLabelsAndTheVerdictExplainThemse
     });
 }
 
+TEST_F(MisleadingLabels, ListsAndChoicesExplainThemselves)
+{
+    MakeTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        ExpectExplained(Visit(sheet, kPrimary).findChild<QWidget*>("results"),
+                        "The names beside the resolution are mixed up: 116/D is Dawes, 138/D is Rayleigh.");
+        ExpectExplained(Visit(sheet, kEyepieces).findChild<QWidget*>("results"),
+                        "The focal length is in millimetres, whatever stands behind it.");
+    });
+    InDialogOf(32779, [](QDialog& dialog) {
+        for (const char* const choice : {"hideMissing", "greyMissing"}) {
+            ExpectExplained(dialog.findChild<QWidget*>(choice),
+                            "OK turns the setting round, whichever of the two is chosen. Cancel leaves it.");
+        }
+    });
+    InDialogOf(32795, [](QDialog& dialog) {
+        ExpectExplained(
+            FindControl<QWidget>(&dialog, 1003),
+            "Die Entfernungen sind zehnmal zu groß: Auf dem Weg zu Metern wird durch 100 geteilt statt "
+            "durch 1000.");
+    });
+}
+
 TEST_F(MisleadingLabelsGerman, TheSectorsListTheFieldsLabelsAndTheVerdictExplainThemselves)
 {
     MakeTelescope();
@@ -46,6 +69,15 @@ TEST_F(MisleadingLabelsGerman, TheSectorsListTheFieldsLabelsAndTheVerdictExplain
     InSheet([](CMyPropertySheet0& sheet) {
         ExpectExplained(FindControl<QWidget>(&Visit(sheet, kCell), 1031),
                         "„6 Punkt Spiegelzelle“ meint die Auflage auf neun Punkten.");
+        ExpectExplained(
+            Visit(sheet, kPrimary).findChild<QWidget*>("results"),
+            "Die Namen neben der Auflösung sind vertauscht: 116/D ist Dawes, 138/D ist Rayleigh.");
+        ExpectExplained(Visit(sheet, kEyepieces).findChild<QWidget*>("results"),
+                        "Die Brennweite ist in Millimetern, was auch dahinter steht.");
+    });
+    InDialogOf(32779, [](QDialog& dialog) {
+        ExpectExplained(dialog.findChild<QWidget*>("hideMissing"),
+                        "OK kehrt die Einstellung um, was auch gewählt ist. Abbrechen lässt sie.");
     });
 }
 

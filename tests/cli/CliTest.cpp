@@ -1,4 +1,5 @@
 #include "cli/Shell.h"
+#include "support/Environment.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -92,6 +93,7 @@ TEST_F(CommandLine, HelpAndVersionStandAloneOrBehindAVerb)
         EXPECT_EQ(0, run.status) << words;
         EXPECT_NE(std::string::npos, run.out.find("orreva-cli report")) << words;
     }
+    EXPECT_NE(std::string::npos, Cli("--help --language de").out.find("Entwurfsdatei"));
     EXPECT_TRUE(HasLine(Cli("report --page summary --title --help").out, "--help")) << "a value is no option";
     EXPECT_NE(0, Cli("calc -- --version").status) << "nor is an expression";
     const CliRun version = Cli("--version");
@@ -331,6 +333,21 @@ TEST_F(CommandLine, TheListOfZonesHasAnEnd)
     EXPECT_EQ("more than 100000 zones", lines[100003]);
     EXPECT_EQ(100003u, Lines(Cli("report --page foucault --zones 100000").out).size());
     EXPECT_EQ("more than 100000 zones", Lines(Cli("report --page foucault --zones 1e9").out).back());
+}
+
+TEST_F(CommandLine, TheListOfEyepiecesIsTheNearest)
+{
+    for (const char* const place : {"user", "first", "second"}) {
+        std::filesystem::create_directories(folder.Path() / place / "orreva");
+    }
+    const Environment user("XDG_DATA_HOME", (folder / "user").c_str());
+    const Environment system("XDG_DATA_DIRS", (folder / "first" + ":" + (folder / "second")).c_str());
+    const auto page = [] { return Lines(Cli("report --page eyepieces").out); };
+    EXPECT_EQ(1u, page().size()) << "no list, and no word but the page's";
+    for (const char* const place : {"second/orreva/", "first/orreva/", "user/orreva/", ""}) {
+        folder.Write(std::string(place) + "eyepiece.dat", "In " + std::string(place) + ",10,50\n");
+        EXPECT_EQ("In " + std::string(place), page().at(1));
+    }
 }
 
 TEST_F(CommandLine, TheListOfEyepiecesHasAnEnd)

@@ -1,5 +1,6 @@
 #include "cli/DrawVerb.h"
 
+#include "cli/words/ProgramWords.h"
 #include "lib/text/Language.h"
 #include "support/SampleScopes.h"
 #include "support/TemporaryFolder.h"
@@ -9,6 +10,15 @@
 #include <QImage>
 
 namespace {
+
+TEST(DrawVerbWords, TheHelpNamesEachPicture)
+{
+    std::vector<std::string_view> names;
+    for (const NamedPicture& picture : Pictures()) {
+        names.push_back(picture.name);
+    }
+    EXPECT_EQ(names, ChoicesOf(FindOptionWords("--picture")->choices));
+}
 
 class DrawVerb : public ::testing::Test {
 protected:

@@ -28,6 +28,9 @@ void Tell(int)
     std::abort();
 }
 
+/// Tests of what ends a program run it in a process of its own.
+const pid_t g_ownProcess = getpid();
+
 class Watchdog : public testing::EmptyTestEventListener {
 public:
     void OnTestStart(const testing::TestInfo& test) override
@@ -43,9 +46,20 @@ public:
     void OnTestEnd(const testing::TestInfo&) override { alarm(0); }
 };
 
+/// A program under test that calls exit would pass: the runner sees its status alone.
+void TellEarlyEnd()
+{
+    const testing::TestInfo* const test = testing::UnitTest::GetInstance()->current_test_info();
+    if (test != nullptr && getpid() == g_ownProcess) {
+        std::fprintf(stderr, "\n%s.%s ended the program.\n", test->test_suite_name(), test->name());
+        _exit(1);
+    }
+}
+
 // Linked in is switched on, whatever main function the test program has.
 [[maybe_unused]] const bool g_bListening = [] {
     testing::UnitTest::GetInstance()->listeners().Append(new Watchdog);
+    std::atexit(TellEarlyEnd);
     return true;
 }();
 

@@ -29,9 +29,9 @@ CPropertyPageCouder2::CPropertyPageCouder2(CFoucaultSession& session, QWidget* p
     QTableWidget& table = *m_ui->series;
     table.setColumnCount(static_cast<int>(std::size(kSeriesColumns)));
     for (int column = 0; column < table.columnCount(); ++column) {
-        const ListColumn& told = kSeriesColumns[column];
-        table.setHorizontalHeaderItem(column, new QTableWidgetItem(ToQString(told.title.In(g_nLanguage))));
-        table.setColumnWidth(column, told.width);
+        const ListColumn& shown = kSeriesColumns[column];
+        table.setHorizontalHeaderItem(column, new QTableWidgetItem(ToQString(shown.title.In(g_nLanguage))));
+        table.setColumnWidth(column, shown.width);
     }
     ConnectButtons();
     ShowSession();

@@ -43,8 +43,7 @@ private:
 } // namespace
 
 CMyPropertyPage07::CMyPropertyPage07(COrrevaDoc& doc, QWidget* parent)
-    : CTelescopePage(doc, kWizardNext, parent), m_list(LoadEyepieces("eyepiece.dat")),
-      m_order(SortEyepieces(m_list.entries)), m_ui(std::make_unique<Ui::MyPropertyPage07>())
+    : CTelescopePage(doc, kWizardNext, parent), m_ui(std::make_unique<Ui::MyPropertyPage07>())
 {
     m_ui->setupUi(this);
     BindHelpStrip();
@@ -53,14 +52,35 @@ CMyPropertyPage07::CMyPropertyPage07(COrrevaDoc& doc, QWidget* parent)
     if (auto* const list = qobject_cast<QListView*>(m_ui->eyepiece->view())) {
         list->setUniformItemSizes(true);
     }
-    m_ui->eyepiece->setModel(new EyepieceNames(m_list.entries, m_order, this));
-    m_ui->eyepiece->setCurrentIndex(-1);
     m_ui->results->SetColumns(kEyepieceColumns, g_nLanguage);
-    m_ui->results->SetRows(ListNote());
     connect(m_ui->eyepiece, &QComboBox::activated, this, &CMyPropertyPage07::ShowEyepiece);
+    connect(m_ui->useInstalled, &QPushButton::clicked, this, &CMyPropertyPage07::UseInstalledList);
+    const std::vector<std::string> places = EyepiecePlaces();
+    m_ui->places->setText(ToQString(EyepiecePlacesText(places, g_nLanguage)));
+    ShowList(LoadEyepieces(FindEyepieces(places).c_str()));
 }
 
 CMyPropertyPage07::~CMyPropertyPage07() = default;
+
+void CMyPropertyPage07::ShowList(EyepieceList list)
+{
+    m_list = std::move(list);
+    m_order = SortEyepieces(m_list.entries);
+    m_ui->eyepiece->setModel(
+        new EyepieceNames(m_list.entries, m_order, m_ui->eyepiece)); // and ends the one before
+    m_ui->eyepiece->setCurrentIndex(-1);
+    m_ui->results->SetRows(ListNote());
+    const bool nothing = m_list.entries.empty();
+    m_ui->places->setVisible(nothing);
+    m_ui->useInstalled->setVisible(nothing && !InstalledEyepieces().empty());
+}
+
+/// In place of a list that is empty or cannot be read.
+void CMyPropertyPage07::UseInstalledList()
+{
+    ShowList(LoadEyepieces(InstalledEyepieces().c_str()));
+    m_ui->eyepiece->setFocus();
+}
 
 ListRows CMyPropertyPage07::ListNote() const
 {

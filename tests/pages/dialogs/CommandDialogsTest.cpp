@@ -41,6 +41,8 @@ constexpr DialogRow kDialogs[] = {
     {id::kInchCalculator, "CInchDialog"},
     {id::kPolygonCalculator, "CPolygonDialog"},
     {id::kSectorCalculator, "CSectorDialog"},
+    {id::kReportPdf, "QFileDialog"},
+    {id::kWorkshopSheets, "CWorkshopSheetsDialog"},
     {id::kAbout, "CAboutBox"},
 };
 

@@ -1,9 +1,20 @@
 #include "pages/sheet/SheetFixture.h"
+#include "support/Environment.h"
 
 namespace {
 
-class EyepiecesPage : public SheetFixture {};
-class EyepiecesPageGerman : public GermanSheetFixture {};
+/// Folders of data in which nothing is installed.
+struct NoInstalledLists {
+    Environment user{"XDG_DATA_HOME", "/nowhere/user"};
+    Environment system{"XDG_DATA_DIRS", "/nowhere/system"};
+};
+
+class EyepiecesPage : public SheetFixture {
+    NoInstalledLists nothing;
+};
+class EyepiecesPageGerman : public GermanSheetFixture {
+    NoInstalledLists nothing;
+};
 
 using Lines = std::vector<std::string>;
 
@@ -59,6 +70,61 @@ TEST_F(EyepiecesPage, AMissingFileIsAnEmptyList)
         EXPECT_EQ(0, Names(page).count());
         QTest::keyClick(&Names(page), Qt::Key_Down);
         EXPECT_EQ(Lines{}, Rows(page));
+    });
+}
+
+QLabel& Places(const QWidget& page) { return *page.findChild<QLabel*>("places"); }
+QPushButton& UseInstalled(const QWidget& page) { return *page.findChild<QPushButton*>("useInstalled"); }
+
+TEST_F(EyepiecesPage, AnEmptyPageSaysWhereListsAreLookedFor)
+{
+    MakeMeasuredTelescope();
+    InSheet([this](CMyPropertySheet0& sheet) {
+        CPropertyPage& page = Visit(sheet, kEyepieces);
+        EXPECT_TRUE(Places(page).isVisible());
+        const QStringList lines = Places(page).text().split('\n');
+        ASSERT_EQ(5, lines.size());
+        EXPECT_EQ("There are no eyepieces. The first of these lists counts that is there:",
+                  lines[0].toStdString());
+        EXPECT_EQ(std::filesystem::current_path() / "eyepiece.dat", lines[1].toStdString());
+        EXPECT_EQ("/nowhere/user/orreva/eyepiece.dat", lines[2].toStdString());
+        EXPECT_EQ("/nowhere/system/orreva/eyepiece.dat", lines[3].toStdString());
+        EXPECT_FALSE(UseInstalled(page).isVisible()) << "there is none";
+    });
+}
+
+TEST_F(EyepiecesPage, AnEmptyListIsExchangedForTheInstalledOne)
+{
+    folder.Write("eyepiece.dat", "# nothing yet\n");
+    std::filesystem::create_directories(folder.Path() / "system/orreva");
+    folder.Write("system/orreva/eyepiece.dat", "Kellner 20,20,45\nErfle 32,32,65\n");
+    const Environment system("XDG_DATA_DIRS", (folder / "system").c_str());
+    MakeMeasuredTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        CPropertyPage& page = Visit(sheet, kEyepieces);
+        EXPECT_EQ(Lines{}, Entries(page)) << "the user's own list counts";
+        EXPECT_TRUE(Places(page).isVisible());
+        ASSERT_TRUE(UseInstalled(page).isVisible());
+        UseInstalled(page).click();
+        EXPECT_EQ((Lines{"Erfle 32", "Kellner 20"}), Entries(page));
+        EXPECT_FALSE(Places(page).isVisible());
+        EXPECT_FALSE(UseInstalled(page).isVisible());
+        ChooseEntry(page, 1011, 1);
+        EXPECT_EQ("60.00", Value(page, "Magnification"));
+        EXPECT_FALSE(Button(sheet, "apply").isEnabled());
+    });
+}
+
+TEST_F(EyepiecesPage, AListInTheUsersFolderIsFoundWithoutAnyInTheCurrentOne)
+{
+    std::filesystem::create_directories(folder.Path() / "user/orreva");
+    folder.Write("user/orreva/eyepiece.dat", "Ortho 12,12,45\n");
+    const Environment user("XDG_DATA_HOME", (folder / "user").c_str());
+    MakeMeasuredTelescope();
+    InSheet([](CMyPropertySheet0& sheet) {
+        CPropertyPage& page = Visit(sheet, kEyepieces);
+        EXPECT_EQ((Lines{"Ortho 12"}), Entries(page));
+        EXPECT_FALSE(Places(page).isVisible());
     });
 }
 

@@ -1,0 +1,40 @@
+# Brings the German texts of FOLDER, a copy of res/de or the folder itself, up to the forms and sources of SOURCE by
+# LUPDATE. NAME.ts belongs to res/NAME.ui, else to the source of that name. With CHECK, FOLDER is a copy to be made, and
+# what lupdate would change is a failure.
+cmake_minimum_required(VERSION 3.25)
+
+# The toolkit's own texts, which no source of ours names.
+set(foreign Toolkit)
+
+file(GLOB translations RELATIVE ${SOURCE}/res/de ${SOURCE}/res/de/*.ts)
+if(CHECK)
+  file(REMOVE_RECURSE ${FOLDER})
+  file(COPY ${SOURCE}/res/de/ DESTINATION ${FOLDER})
+endif()
+foreach(translation IN LISTS translations)
+  cmake_path(GET translation STEM name)
+  if(name IN_LIST foreign)
+    continue()
+  endif()
+  set(texts ${SOURCE}/res/${name}.ui)
+  if(NOT EXISTS ${texts})
+    file(GLOB_RECURSE texts ${SOURCE}/src/${name}.cpp ${SOURCE}/src/${name}.h)
+  endif()
+  if(NOT texts)
+    message(SEND_ERROR "${translation} belongs to no form and no source")
+    continue()
+  endif()
+  execute_process(COMMAND ${LUPDATE} -silent -locations none -no-obsolete -I ${SOURCE}/src ${texts}
+    -ts ${FOLDER}/${translation} COMMAND_ERROR_IS_FATAL ANY)
+  if(CHECK)
+    file(READ ${SOURCE}/res/de/${translation} before)
+    file(READ ${FOLDER}/${translation} after)
+    if(NOT before STREQUAL after)
+      message(SEND_ERROR "lupdate changes ${translation}: build the target translations")
+    endif()
+    math(EXPR checked "${checked} + 1")
+  endif()
+endforeach()
+if(CHECK AND checked LESS 20)
+  message(SEND_ERROR "Only ${checked} files were looked at")
+endif()
