@@ -1,5 +1,7 @@
 #include "cli/words/ProgramWords.h"
 
+#include "drawing/paper/Paper.h"
+#include "drawing/paper/Sheets.h"
 #include "report/Report.h"
 
 #include <gtest/gtest.h>
@@ -85,6 +87,20 @@ TEST(ProgramWords, ThePagesAreThoseOfTheReport)
             << "the sentence says: the last";
     }
     EXPECT_EQ(pages, ChoicesOf(FindOptionWords("--page")->choices));
+}
+
+TEST(ProgramWords, SheetsAndPapersAreThoseThatAreMade)
+{
+    std::vector<std::string_view> sheets;
+    for (const SheetName& sheet : kSheets) {
+        sheets.push_back(sheet.word);
+    }
+    EXPECT_EQ(sheets, ChoicesOf(FindOptionWords("--sheet")->choices));
+    std::vector<std::string_view> papers;
+    for (const PaperSize& paper : kPapers) {
+        papers.push_back(paper.name);
+    }
+    EXPECT_EQ(papers, ChoicesOf(FindOptionWords("--paper")->choices));
 }
 
 TEST(ProgramWords, TextsAreTakenApart)
