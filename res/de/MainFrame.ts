@@ -250,6 +250,15 @@
         <translation>Spiegelbox/Hut zeigen</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
+    <message>
+        <source>Both panes in black on white</source>
+        <comment>prompt</comment>
+        <translation>Beide Hälften in Schwarz auf Weiß</translation>
+    </message>
+    <message>
         <source>Calculator</source>
         <translation>Rechner</translation>
     </message>

@@ -1,6 +1,7 @@
 #include "app/MainFrame.h"
 
 #include "app/KeyIndicators.h"
+#include "app/MenuLetters.h"
 #include "app/MyDialogBar.h"
 #include "app/Printing.h"
 #include "app/SaveReport.h"
@@ -14,6 +15,8 @@
 #include "painting/QtText.h"
 #include "views/LeftView.h"
 #include "views/OrrevaView.h"
+#include "views/PaneReading.h"
+#include "views/PaneSplitter.h"
 #include "views/ProgramIcon.h"
 
 #include "ui_MainFrame.h"
@@ -24,7 +27,8 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QShortcut>
-#include <QSplitter>
+#include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
@@ -63,6 +67,7 @@ CMainFrame::CMainFrame(COrrevaDoc& doc, const CThreadLocale& locale)
     CreatePanes();
     BindActions();
     BindAccelerators();
+    new CMenuLetters(*this);
     m_toolWindows = new CToolWindows(*this, *m_ui->statusBar, *m_dialogBar, m_document);
     connect(this, &CMainFrame::ViewsUpdated, m_toolWindows, &CToolWindows::Follow);
     SetDocumentTitle({});
@@ -80,6 +85,23 @@ void CMainFrame::CreateBars()
     connect(m_dialogBar, &CMyDialogBar::Changed, this, &CMainFrame::Refresh);
     CreateStatusFields();
     new KeyIndicators(*m_ui->statusBar);
+    NameToolButtons();
+}
+
+/// For screen readers, without the key that stands behind a menu's text.
+void CMainFrame::NameToolButtons()
+{
+    for (QAction* const action : m_ui->toolBar->actions()) {
+        if (QWidget* const button = m_ui->toolBar->widgetForAction(action); button != nullptr) {
+            button->setAccessibleName(action->text().section('\t', 0, 0).remove('&').trimmed());
+        }
+    }
+    constexpr Bilingual kRest{"More", "Weitere"};
+    for (const QToolBar* const bar : {m_ui->toolBar, m_ui->dialogBarBand}) {
+        if (auto* const rest = bar->findChild<QToolButton*>("qt_toolbar_ext_button")) {
+            rest->setAccessibleName(kRest.In(g_nLanguage));
+        }
+    }
 }
 
 /// The message field at the left, which gives way to the prompts of menus while they show; the trial; whether
@@ -105,19 +127,25 @@ void CMainFrame::CreateStatusFields()
 
 void CMainFrame::CreatePanes()
 {
-    auto* const splitter = new QSplitter(Qt::Horizontal, this);
-    m_left = new CLeftView(m_document, splitter);
-    m_right = new COrrevaView(m_document, splitter);
-    splitter->setChildrenCollapsible(false);
-    splitter->setStretchFactor(1, 1);
     const int leftWidth = CLeftView::CreationWidth(kPaneWidth);
-    splitter->setSizes({leftWidth, std::max(kPaneWidth, width() - leftWidth)});
-    setCentralWidget(splitter);
+    InstallPaneReading();
+    m_splitter = new CPaneSplitter(leftWidth, kPaneWidth, this);
+    m_left = new CLeftView(m_document, m_splitter);
+    m_right = new COrrevaView(m_document, m_splitter);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setSizes({leftWidth, std::max(kPaneWidth, width() - leftWidth)});
+    setCentralWidget(m_splitter);
     for (CPane* const pane : {static_cast<CPane*>(m_left), static_cast<CPane*>(m_right)}) {
-        connect(pane, &CPane::Activated, this, [this](CPane* activated) { m_active = activated; });
+        connect(pane, &CPane::Activated, this, &CMainFrame::ActivatePane);
     }
-    m_active = m_left;
+    ActivatePane(m_left);
     m_left->setFocus();
+}
+
+void CMainFrame::ActivatePane(CPane* pane)
+{
+    m_active = pane;
+    m_splitter->ShowActive(pane);
 }
 
 void CMainFrame::BindActions()
@@ -167,8 +195,10 @@ void CMainFrame::Freeze(bool frozen)
 
 void CMainFrame::UpdateAllViews()
 {
-    m_left->update();
-    m_right->update();
+    for (CPane* const pane : {static_cast<CPane*>(m_left), static_cast<CPane*>(m_right)}) {
+        pane->update();
+        AnnouncePane(*pane);
+    }
     Refresh();
     emit ViewsUpdated();
 }

@@ -9,6 +9,7 @@
 
 class CLeftView;
 class CMyDialogBar;
+class CPaneSplitter;
 class CThreadLocale;
 class CToolWindows;
 class COrrevaDoc;
@@ -17,7 +18,6 @@ class KeyIndicators;
 class QAction;
 class QLabel;
 class QMimeData;
-class QSplitter;
 
 namespace Ui {
 class MainFrame;
@@ -63,8 +63,10 @@ protected:
 
 private:
     void CreateBars();
+    void NameToolButtons();
     void CreateStatusFields();
     void CreatePanes();
+    void ActivatePane(CPane* pane);
     void BindActions();
     void BindAccelerators();
     void UpdateActions();
@@ -81,6 +83,7 @@ private:
     COrrevaView* m_right = nullptr;
     CMyDialogBar* m_dialogBar = nullptr;
     CToolWindows* m_toolWindows = nullptr;
+    CPaneSplitter* m_splitter = nullptr;
     CPane* m_active = nullptr;
     QLabel* m_message = nullptr;
     QLabel* m_trial = nullptr;

@@ -61,6 +61,7 @@ constexpr Command kCommands[] = {
     Switch(id::kShowExtendedFocuser, Loaded, &Doc::OnShowExtendedFocuser,
            &ViewSwitches::show_extended_focuser),
     Switch(id::kShowBoxAndCage, LoadedTruss, &Doc::OnShowBoxAndCage, &ViewSwitches::show_box_and_cage),
+    Switch(id::kHighContrast, Always, &Doc::OnHighContrast, &ViewSwitches::high_contrast),
     Desktop(id::kGerman, Always),
     Desktop(id::kEnglish, Always),
     Opens(id::kCalculator, Always, Modal::Calculator),

@@ -67,6 +67,7 @@ inline constexpr std::int32_t kVariation = 33023;
 inline constexpr std::int32_t kIllumination = 33041;
 inline constexpr std::int32_t kReportPdf = 33061;
 inline constexpr std::int32_t kWorkshopSheets = 33062;
+inline constexpr std::int32_t kHighContrast = 33063;
 inline constexpr std::int32_t kImportOld = 57601;
 inline constexpr std::int32_t kPrintSetup = 57606;
 inline constexpr std::int32_t kPrint = 57607;

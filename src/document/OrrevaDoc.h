@@ -47,6 +47,7 @@ public:
     void OnShowOffset() { ToggleSwitch(&ViewSwitches::show_offset); }
     void OnShowExtendedFocuser() { ToggleSwitch(&ViewSwitches::show_extended_focuser); }
     void OnShowBoxAndCage() { ToggleSwitch(&ViewSwitches::show_box_and_cage); }
+    void OnHighContrast() { ToggleSwitch(&ViewSwitches::high_contrast); }
     void OnEarlierDesigns() { ChooseEarlierDesign(std::nullopt); }
     void OnUndo();
     void OnRedo();

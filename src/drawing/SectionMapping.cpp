@@ -58,13 +58,25 @@ SectionMapping MapScene(Point scene, Pixel size, double scale)
     return map;
 }
 
-} // namespace
-
-SectionMapping FitSection(COrrevaData& record, Pixel size)
+SectionMapping FitScene(Point scene, Pixel size)
 {
     constexpr int kMargin = 10; // pixels, for both sides together
-    const Point scene = SceneSize(record);
     return MapScene(scene, size, std::min((size.x - kMargin) / scene.x, (size.y - kMargin) / scene.y));
+}
+
+} // namespace
+
+SectionMapping FitSection(COrrevaData& record, Pixel size) { return FitScene(SceneSize(record), size); }
+
+SectionMapping FitSection(COrrevaData& record, Pixel size, const SectionRoom& room)
+{
+    Point scene = SceneSize(record);
+    const SectionMapping usual = FitScene(scene, size);
+    if (room.bottom * usual.scale + usual.offsetY + room.pixels <= size.y) {
+        return usual;
+    }
+    scene.y = std::max(scene.y, room.bottom);
+    return FitScene(scene, {size.x, size.y - room.pixels});
 }
 
 SectionMapping SectionAtScale(COrrevaData& record, Pixel size, double scale)

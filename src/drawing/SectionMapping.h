@@ -25,5 +25,14 @@ struct SectionMapping {
 /// below is the scale's. The scroll is (0, 0).
 SectionMapping FitSection(COrrevaData& record, Pixel size);
 
+/// Room that a picture keeps below the telescope: down to `bottom` mm, and pixels below that.
+struct SectionRoom {
+    double bottom = 0;
+    std::int32_t pixels = 0;
+};
+
+/// The same mapping if it has that room already, or else one for a smaller telescope.
+SectionMapping FitSection(COrrevaData& record, Pixel size, const SectionRoom& room);
+
 /// The same with a scale of the caller's, which may leave room or be too large.
 SectionMapping SectionAtScale(COrrevaData& record, Pixel size, double scale);

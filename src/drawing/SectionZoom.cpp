@@ -48,3 +48,32 @@ void SectionZoom::RightClick()
         --zoom;
     }
 }
+
+bool SectionZoom::StepTo(std::int32_t other, Pixel size)
+{
+    if (other < 1 || other > kMost) {
+        return false;
+    }
+    // The middle's share of the picture stays.
+    const auto scrolled = [&](std::int32_t scroll, std::int32_t length) {
+        return Narrowed((2 * std::int64_t{scroll} + length) * other / (2 * std::int64_t{zoom}) - length / 2);
+    };
+    scrollX = scrolled(scrollX, size.x);
+    scrollY = scrolled(scrollY, size.y);
+    zoom = other;
+    Clamp(size.x, size.y);
+    return true;
+}
+
+bool SectionZoom::StepIn(Pixel size) { return StepTo(zoom + 1, size); }
+
+bool SectionZoom::StepOut(Pixel size) { return StepTo(zoom - 1, size); }
+
+bool SectionZoom::Move(Pixel by, Pixel size)
+{
+    const SectionZoom before = *this;
+    scrollX = Sum(scrollX, by.x);
+    scrollY = Sum(scrollY, by.y);
+    Clamp(size.x, size.y);
+    return *this != before;
+}

@@ -23,4 +23,13 @@ struct SectionZoom {
     bool DoubleClick(Pixel at);
     /// Right click: one step back.
     void RightClick();
+
+    // By the keyboard, in a window of `size`: one step closer or back about the window's middle, and to
+    // another part of the picture. Whether anything changed.
+    bool StepIn(Pixel size);
+    bool StepOut(Pixel size);
+    bool Move(Pixel by, Pixel size);
+
+private:
+    bool StepTo(std::int32_t other, Pixel size);
 };

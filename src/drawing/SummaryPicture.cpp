@@ -5,19 +5,15 @@
 
 namespace {
 
-constexpr Colour kField{51, 153, 102};
-constexpr Colour kText{240, 240, 240};
-constexpr Colour kWarning{255, 0, 0};
-
 constexpr std::int32_t kTop = 2;
 constexpr std::int32_t kGapAboveHeading = 10;
 
 } // namespace
 
 void PaintSummary(Surface& surface, COrrevaData& record, const FullField& field, int language,
-                  std::int32_t fontHeight)
+                  std::int32_t fontHeight, const SummaryColours& colours)
 {
-    surface.FillRect({0, 0, surface.Width(), surface.Height()}, kField);
+    surface.FillRect({0, 0, surface.Width(), surface.Height()}, colours.field);
     if (!record.HasFile()) {
         return;
     }
@@ -27,10 +23,11 @@ void PaintSummary(Surface& surface, COrrevaData& record, const FullField& field,
         const Font font{fontHeight, bold ? Font::kBold : Font::kNormal};
         y += row.kind == SummaryRow::kHeading ? kGapAboveHeading : 0;
         if (row.kind == SummaryRow::kValue) {
-            y += PaintRow(surface, y, row.label, row.value, font, kText, row.warning ? kWarning : kText);
+            y += PaintRow(surface, y, row.label, row.value, font, colours.text,
+                          row.warning ? colours.warning : colours.text);
         } else {
             const std::int32_t right = row.kind == SummaryRow::kTitle ? kRowRight : kValueLeft;
-            y += PaintCell(surface, kLabelLeft, right, y, row.label, font, kText);
+            y += PaintCell(surface, kLabelLeft, right, y, row.label, font, colours.text);
         }
     }
 }

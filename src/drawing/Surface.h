@@ -37,6 +37,12 @@ struct Font {
     bool upright = false;          ///< rotated by 90 degrees, to be read from below
     bool operator==(const Font&) const = default;
 
+    /// The same font, so many times as large.
+    Font Scaled(double times) const
+    {
+        return {static_cast<std::int32_t>(height * times + 0.5), weight, upright};
+    }
+
     static constexpr std::int32_t kNormal = 200;
     static constexpr std::int32_t kBold = 600;
 };

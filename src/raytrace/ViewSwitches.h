@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// What the cross-section shows beside the telescope itself. The document holds one set; it is stored nowhere
+/// What the panes show beside the telescope itself. The document holds one set; it is stored nowhere
 /// and returns to these values at every start. At most one of the three ray modes is set.
 struct ViewSwitches {
     std::uint8_t ray_from_mouse = 0;        ///< point source at the mouse pointer
@@ -12,4 +12,5 @@ struct ViewSwitches {
     std::uint8_t show_extended_focuser = 0; ///< the focuser drawn extended
     std::uint8_t show_offset = 1;           ///< the secondary drawn with its offset
     std::uint8_t show_box_and_cage = 0;     ///< mirror box and upper cage drawn
+    std::uint8_t high_contrast = 0;         ///< both panes black on white
 };

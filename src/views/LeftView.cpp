@@ -2,21 +2,42 @@
 
 #include "document/OrrevaDoc.h"
 #include "drawing/SummaryPicture.h"
-#include "lib/text/Language.h"
+#include "lib/text/CodePage.h"
 #include "model/analysis/Summary.h"
 
-CLeftView::CLeftView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, parent) { setObjectName("leftView"); }
+namespace {
 
-void CLeftView::Paint(Surface& surface)
+constexpr Bilingual kTitle{"design summary", "Übersicht"_cp1252};
+
+} // namespace
+
+CLeftView::CLeftView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, kTitle, parent)
 {
-    PaintSummary(surface, *m_document.active_record,
-                 {m_document.field_diameter_100, m_document.field_angle_100}, g_nLanguage);
+    setObjectName("leftView");
 }
 
-void CLeftView::PaintPage(Surface& surface)
+void CLeftView::PaintAt(Surface& surface, std::int32_t fontHeight)
 {
     PaintSummary(surface, *m_document.active_record,
-                 {m_document.field_diameter_100, m_document.field_angle_100}, g_nLanguage, kPaperFontHeight);
+                 {m_document.field_diameter_100, m_document.field_angle_100}, g_nLanguage, fontHeight,
+                 m_document.high_contrast != 0 ? kContrastSummary : kUsualSummary);
+}
+
+void CLeftView::Paint(Surface& surface) { PaintAt(surface, kScreenFontHeight); }
+
+void CLeftView::PaintPage(Surface& surface) { PaintAt(surface, kPaperFontHeight); }
+
+std::vector<PaneLine> CLeftView::Read()
+{
+    std::vector<PaneLine> lines;
+    if (m_document.HasFile()) {
+        for (const SummaryRow& row :
+             SummaryRows(*m_document.active_record,
+                         {m_document.field_diameter_100, m_document.field_angle_100}, g_nLanguage)) {
+            lines.push_back({row.label, SpokenValue(row, g_nLanguage)});
+        }
+    }
+    return lines;
 }
 
 #include "moc_LeftView.cpp"

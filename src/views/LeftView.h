@@ -12,7 +12,13 @@ public:
     /// Twice the width that it is asked for: labels and values need about 400 pixels.
     static int CreationWidth(int asked) { return 2 * asked; }
 
+    bool IsTable() const override { return true; }
+
 protected:
+    std::vector<PaneLine> Read() override;
     void Paint(Surface& surface) override;
     void PaintPage(Surface& surface) override;
+
+private:
+    void PaintAt(Surface& surface, std::int32_t fontHeight);
 };

@@ -21,7 +21,7 @@ void CSectionThumbnail::Paint(Surface& surface)
         return;
     }
     SectionZoom whole;
-    PaintSection(surface, whole, m_telescope, ViewSwitches{}, Pixel{0, 0}, g_nLanguage);
+    PaintSection(surface, whole, m_telescope, ViewSwitches{}, Pixel{0, 0}, g_nLanguage, PixelScale());
 }
 
 #include "moc_SectionThumbnail.cpp"

@@ -8,7 +8,7 @@ class CSectionThumbnail : public CPictureWidget {
     Q_OBJECT
 
 public:
-    explicit CSectionThumbnail(QWidget* parent = nullptr) : CPictureWidget(parent) {}
+    explicit CSectionThumbnail(QWidget* parent = nullptr) : CPictureWidget(parent) { PaintInScreenPixels(); }
 
     /// Shows another telescope; null for none.
     void SetTelescope(const COrrevaData* record);

@@ -108,6 +108,7 @@ constexpr MenuRow kMenuTexts[] = {
     {32780, "Show Secondary without Offset", "Fangspiegel ohne Offset darstellen"},
     {32786, "Show extended Focuser", "Focuser ausgefahren zeigen"},
     {32793, "Show Rockerbox/Upper Cage", "Spiegelbox/Hut zeigen"},
+    {33063, "High contrast", "Hoher Kontrast"},
     {32808, "Deutsch", "Deutsch"},
     {32809, "English", "English"},
     {32789, "Calculator", "Rechner"},

@@ -28,8 +28,8 @@ TEST_F(CommandTable, EveryIdStandsOnce)
 
 TEST_F(CommandTable, EnabledAsListed)
 {
-    const std::set<int> always{32771, 32813, 32802, 57601, 57606, 32808, 32809,
-                               32789, 32777, 32788, 32791, 32790, 32810, 33003};
+    const std::set<int> always{32771, 32813, 32802, 57601, 57606, 32808, 32809, 32789,
+                               32777, 32788, 32791, 32790, 32810, 33003, 33063};
     const std::set<int> loaded{32803, 32804, 32807, 32811, 57607, 57609, 32772, 32792,
                                32781, 32795, 32794, 32800, 32796, 32776, 32778, 32775,
                                32779, 32780, 32786, 33021, 33022, 33023, 33041, 33061, 33062};
@@ -79,7 +79,8 @@ TEST_F(CommandTable, ChecksFollowTheirSwitches)
                 {32775, &ViewSwitches::ray_from_mouse, false},
                 {32780, &ViewSwitches::show_offset, true},
                 {32786, &ViewSwitches::show_extended_focuser, false},
-                {32793, &ViewSwitches::show_box_and_cage, false}};
+                {32793, &ViewSwitches::show_box_and_cage, false},
+                {33063, &ViewSwitches::high_contrast, false}};
     for (const auto& row : rows) {
         for (const std::uint8_t value : {std::uint8_t{0}, std::uint8_t{1}}) {
             doc.*row.place = value;

@@ -64,4 +64,21 @@ TEST(SectionMapping, TakesAnyNumber)
     EXPECT_EQ((Pixel{kLeast, 100}), map.WorldToScreen(-1, 5));
 }
 
+TEST(SectionMapping, KeepsRoomBelowTheTelescope)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    const SectionMapping usual = FitSection(record, {1077, 1000});
+    const SectionMapping same = FitSection(record, {1077, 1000}, {405, 432}); // 405 + 162.5 + 432 = 999.5
+    EXPECT_DOUBLE_EQ(usual.scale, same.scale);
+    EXPECT_DOUBLE_EQ(usual.offsetY, same.offsetY);
+    const SectionMapping less = FitSection(record, {1077, 1000}, {405, 433});
+    EXPECT_DOUBLE_EQ((1000 - 433 - 10) / 405.0 < 1 ? (1000 - 433 - 10) / 405.0 : 1, less.scale);
+    EXPECT_DOUBLE_EQ((567 - 405 * less.scale) / 4, less.offsetY);
+    // A low window: all of it but 22 pixels for 405 mm instead of 350.
+    const SectionMapping low = FitSection(record, {3000, 400}, {405, 22});
+    EXPECT_DOUBLE_EQ(368 / 405.0, low.scale);
+    EXPECT_DOUBLE_EQ(2.5, low.offsetY);
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 #include "drawing/SectionPicture.h"
 
+#include "drawing/PaneColours.h"
 #include "lib/text/Language.h"
 #include "support/RecordingSurface.h"
 #include "support/SampleScopes.h"
@@ -358,6 +359,180 @@ TEST_F(SectionPicture, AtAScaleOfTheCallersIsTheSamePicture)
     for (const double odd : {0.0, -1.0, 1e300, static_cast<double>(HUGE_VAL), std::nan("")}) {
         PaintSectionAtScale(half, record, odd);
     }
+}
+
+std::vector<std::string> NumbersOf(const RecordingSurface& window)
+{
+    std::vector<std::string> numbers;
+    for (const auto& text : window.Of<drawn::Text>()) {
+        if (text.font.upright) {
+            numbers.push_back(text.text);
+        }
+    }
+    return numbers;
+}
+
+TEST_F(SectionPicture, InHighContrastHasTheSameShapesInOtherColours)
+{
+    const auto usual = Paint().Of<drawn::FillRect>();
+    const auto usualQuads = Paint().Of<drawn::Polygon>();
+    switches.high_contrast = 1;
+    const auto clear = Paint().Of<drawn::FillRect>();
+    const auto clearQuads = Paint().Of<drawn::Polygon>();
+    ASSERT_EQ(usual.size(), clear.size());
+    for (std::size_t i = 0; i < usual.size(); ++i) {
+        EXPECT_EQ(usual[i].rect, clear[i].rect) << i;
+    }
+    ASSERT_EQ(2u, clearQuads.size());
+    for (std::size_t i = 0; i < clearQuads.size(); ++i) {
+        EXPECT_EQ(usualQuads[i].points, clearQuads[i].points) << i;
+    }
+    EXPECT_EQ(kWhite, clear.front().colour);
+    EXPECT_EQ(kBlack, clear.at(2).colour) << "the upper wall";
+    EXPECT_EQ(kContrastSection.mirror, clear.back().colour);
+    EXPECT_EQ(kContrastSection.mirror, clearQuads[0].brush);
+}
+
+TEST_F(SectionPicture, InHighContrastHasTheScalesNumbersBelowItsTicks)
+{
+    switches.high_contrast = 1;
+    const RecordingSurface window = Paint();
+    constexpr Font kClear{12, 200, true};
+    EXPECT_TRUE(Has(window, drawn::Line{{102, 553}, {1072, 553}, kBlack}));
+    EXPECT_TRUE(Has(window, drawn::Line{{972, 538}, {972, 568}, kBlack}));
+    // Three pixels below the tick's end and 18 high: three digits, each half as wide as a line of 12 is high.
+    EXPECT_TRUE(Has(window, drawn::Text{{966, 568 + 3 + 18}, "100", kClear, kBlack}));
+    // The first one is pulled in: the window ends 5 pixels behind the tube.
+    EXPECT_TRUE(Has(window, drawn::Text{{1063, 568 + 3 + 6}, "0", kClear, kBlack}));
+    EXPECT_TRUE(Has(window, drawn::Line{{102, 538}, {102, 568}, kBlack})) << "the front end has a tick";
+    EXPECT_EQ("970", NumbersOf(window).back());
+}
+
+TEST_F(SectionPicture, InHighContrastReadsTheTubesLengthAtItsFrontEnd)
+{
+    switches.high_contrast = 1;
+    record.SetDistanceFront(2630); // the tube is 870 mm longer
+    EXPECT_EQ((std::vector<std::string>{"0", "500", "1000", "1500", "2000", "2500", "3000", "3500"}),
+              NumbersOf(Paint()));
+    record.SetDistanceFront(984.4);
+    EXPECT_EQ((std::vector<std::string>{"0", "200", "400", "600", "800", "1000", "1200", "1400", "1600",
+                                        "1800", "1854"}),
+              NumbersOf(Paint()));
+    // In a window of 300 pixels 54 mm are less than a line's height: the tube's own length stays.
+    RecordingSurface narrow(300, 600);
+    PaintSection(narrow, view, record, switches, Pixel{}, kEnglish);
+    const auto numbers = NumbersOf(narrow);
+    EXPECT_EQ("1854", numbers.back());
+    EXPECT_EQ("1600", numbers.at(numbers.size() - 2));
+}
+
+TEST_F(SectionPicture, InHighContrastHasNumbersApartAndInsideTheWindow)
+{
+    switches.high_contrast = 1;
+    for (const double front : {100.0, 2630.0, 9000.0, 60000.0}) {
+        record.SetDistanceFront(front);
+        for (const Pixel size : {Pixel{1077, 1000}, Pixel{3000, 400}, Pixel{300, 220}, Pixel{700, 160}}) {
+            view = {};
+            RecordingSurface window(size.x, size.y);
+            PaintSection(window, view, record, switches, Pixel{}, kEnglish);
+            const std::int32_t bottom = window.Of<drawn::FillRect>().at(3).rect.bottom; // of the lower wall
+            std::vector<std::int32_t> lefts;
+            for (const auto& text : window.Of<drawn::Text>()) {
+                if (!text.font.upright) {
+                    continue;
+                }
+                const auto length = static_cast<std::int32_t>(text.text.size()) * 6;
+                EXPECT_GT(text.at.y - length, bottom) << size.x << ' ' << front << ' ' << text.text;
+                EXPECT_LE(text.at.y, size.y) << size.x << ' ' << front;
+                EXPECT_GE(text.at.x, 0);
+                EXPECT_LE(text.at.x + 12, size.x);
+                lefts.push_back(text.at.x);
+            }
+            std::ranges::sort(lefts);
+            for (std::size_t i = 1; i < lefts.size(); ++i) {
+                EXPECT_GE(lefts[i] - lefts[i - 1], i + 1 == lefts.size() ? 9 : 12)
+                    << "the last is pulled in by three pixels";
+            }
+        }
+    }
+}
+
+TEST_F(SectionPicture, InHighContrastKeepsItsTextsInTheWindowsCorner)
+{
+    switches.high_contrast = 1;
+    switches.ray_parallel = 1;
+    switches.show_offset = 0;
+    view = {3, 20, 10};
+    const RecordingSurface window = Paint(Point{0, 80});
+    const std::string status = "Angle: 1.406\xB0 Image: 49.09 mm, Illumination: 75.32% ";
+    const std::string warning = "Attention: Display without Secondary Offset!";
+    ASSERT_LT(4u, window.calls.size());
+    const std::vector<Call> last(window.calls.end() - 4, window.calls.end());
+    // In front of all else, each on a box of its own of 7 pixels a character.
+    EXPECT_EQ((std::vector<Call>{
+                  drawn::FillRect{{0, 0, 4 + 7 * static_cast<std::int32_t>(status.size()), 14}, kWhite},
+                  drawn::Text{{4, 0}, status, kTextFont, kBlack},
+                  drawn::FillRect{{0, 14, 4 + 7 * static_cast<std::int32_t>(warning.size()), 28}, kWhite},
+                  drawn::Text{{4, 14}, warning, kTextFont, kContrastSection.warning},
+              }),
+              last);
+}
+
+TEST_F(SectionPicture, InHighContrastWrapsThePromptOfAnEmptyWindow)
+{
+    switches.high_contrast = 1;
+    record.Clear();
+    const auto prompts = Paint().Of<drawn::WrappedText>();
+    ASSERT_EQ(1u, prompts.size());
+    EXPECT_EQ((PixelRect{10, 10, 1067, 1000}), prompts[0].box);
+    EXPECT_EQ(kBlack, prompts[0].colour);
+}
+
+TEST_F(SectionPicture, InHighContrastEndsForEveryNumberInTheRecord)
+{
+    switches.high_contrast = 1;
+    switches.ray_parallel = 1;
+    for (const RecordSetter setter : kScopeSetters) {
+        for (const double odd : kOddNumbers) {
+            MakeRoundScope(record);
+            (record.*setter)(odd);
+            EXPECT_LT(Paint(Pixel{500, 300}).calls.size(), 12000u);
+        }
+    }
+}
+
+TEST_F(SectionPicture, OnFinerPixelsIsMappedByThem)
+{
+    switches.ray_parallel = 1;
+    view = {1, 0, 0};
+    RecordingSurface fine(1616, 1500); // a window of 1077 by 1000 at one and a half
+    PaintSection(fine, view, record, switches, Point{0, 80}, kEnglish, 1.5);
+    // x to 1.5 x + 7.5, y to 1.5 y + 243.75, and a half for the rounding.
+    EXPECT_EQ((drawn::FillRect{{153, 364, 1609, 725}, kWhite}), fine.Of<drawn::FillRect>().at(1));
+    EXPECT_TRUE(Has(fine, drawn::Line{{153, 829}, {1608, 829}, kWhite})) << "390 mm is 828.75";
+    EXPECT_EQ(
+        (drawn::Text{
+            {6, 0}, "Angle: 1.406\xB0 Image: 49.09 mm, Illumination: 75.32% ", Font{21, 200, false}, kWhite}),
+        fine.Of<drawn::Text>().at(0));
+    EXPECT_EQ((Font{15, 200, true}), fine.Of<drawn::Text>().at(1).font);
+    // The scroll is told in pixels of the window.
+    view = {2, 300, 200};
+    RecordingSurface part(1616, 1500);
+    PaintSection(part, view, record, switches, Point{0, 80}, kEnglish, 1.5);
+    EXPECT_EQ((Pixel{6 - 450, -300}), part.Of<drawn::Text>().at(0).at);
+    EXPECT_EQ((SectionZoom{2, 300, 200}), view);
+}
+
+TEST_F(SectionPicture, TellsThePlaceBelowAPixel)
+{
+    // Pixel for millimetre: (605 - 5, 372 - 162.5).
+    const Point place = PlaceInSection(view, {1077, 1000}, record, switches, {605, 372});
+    EXPECT_DOUBLE_EQ(600, place.x);
+    EXPECT_DOUBLE_EQ(209.5, place.y);
+    // A low window shows the telescope smaller in high contrast: 378 - 10 pixels for 405 mm.
+    switches.high_contrast = 1;
+    const Point low = PlaceInSection(view, {3000, 400}, record, switches, {1500, 371});
+    EXPECT_NEAR((371 - 2.5) / (368.0 / 405), low.y, 1e-9);
 }
 
 } // namespace

@@ -72,4 +72,35 @@ TEST(SectionZoom, StaysWithinItsNumbers)
     EXPECT_EQ((Pixel{kLargest, 150}), view.PictureSize(kLargest, 30));
 }
 
+TEST(SectionZoom, StepsAboutTheMiddleByTheKeyboard)
+{
+    SectionZoom view;
+    const Pixel window{400, 200};
+    EXPECT_FALSE(view.StepOut(window));
+    EXPECT_TRUE(view.StepIn(window));
+    EXPECT_EQ((SectionZoom{2, 200, 100}), view); // the middle of 800 by 400
+    EXPECT_TRUE(view.StepIn(window));
+    EXPECT_EQ((SectionZoom{3, 400, 200}), view); // and of 1200 by 600
+    EXPECT_TRUE(view.StepIn(window));
+    EXPECT_TRUE(view.StepIn(window));
+    EXPECT_FALSE(view.StepIn(window)) << "five is the most";
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_TRUE(view.StepOut(window));
+    }
+    EXPECT_EQ((SectionZoom{1, 0, 0}), view);
+}
+
+TEST(SectionZoom, MovesWithinThePicture)
+{
+    SectionZoom view{2, 200, 100};
+    const Pixel window{400, 200};
+    EXPECT_TRUE(view.Move({-40, 0}, window));
+    EXPECT_EQ((SectionZoom{2, 160, 100}), view);
+    EXPECT_TRUE(view.Move({kLargest, kLargest}, window));
+    EXPECT_EQ((SectionZoom{2, 400, 200}), view);
+    EXPECT_FALSE(view.Move({0, 20}, window)) << "it stands at the lower edge";
+    SectionZoom whole;
+    EXPECT_FALSE(whole.Move({40, 20}, window));
+}
+
 } // namespace

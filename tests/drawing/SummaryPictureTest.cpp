@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr Colour kField{51, 153, 102};
@@ -174,6 +176,27 @@ TEST(SummaryPicture, KeepsItsColumnsOnPaperWithALargerFont)
     EXPECT_EQ((drawn::WrappedText{{2, 2 + 24 + 10 + 24, 160, 1060}, "Diameter:", {24, 200}, kText}),
               texts.at(2));
     EXPECT_EQ((drawn::WrappedText{{160, 60, 400, 1060}, "200.0 mm (7.87\")", {24, 200}, kText}), texts.at(3));
+}
+
+TEST(SummaryPicture, HasTheColoursThatItIsGiven)
+{
+    COrrevaData record;
+    MakeRoundScope(record);
+    record.SetWanted100PercentFow(25); // more than the secondary's 20
+    RecordingSurface usual(400, 700);
+    PaintSummary(usual, record, {20, 1.5}, kEnglish);
+    RecordingSurface clear(400, 700);
+    PaintSummary(clear, record, {20, 1.5}, kEnglish, kScreenFontHeight, kContrastSummary);
+    EXPECT_EQ(kWhite, clear.Of<drawn::FillRect>().at(0).colour);
+    const auto usualTexts = usual.Of<drawn::WrappedText>();
+    const auto texts = clear.Of<drawn::WrappedText>();
+    ASSERT_EQ(usualTexts.size(), texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        EXPECT_EQ(usualTexts[i].box, texts[i].box) << i;
+        EXPECT_EQ(usualTexts[i].colour == kRed ? kContrastSummary.warning : kBlack, texts[i].colour) << i;
+    }
+    EXPECT_TRUE(
+        std::ranges::any_of(texts, [](const auto& text) { return text.colour == kContrastSummary.warning; }));
 }
 
 } // namespace

@@ -183,7 +183,7 @@ std::optional<std::string> TakeLiteral(std::string_view& code)
     while (code.starts_with('"')) {
         std::size_t end = 1;
         while (end < code.size() && code[end] != '"') {
-            end += code[end] == '\\' ? 2 : 1;
+            end += code[end] == '\\' ? std::size_t{2} : std::size_t{1};
         }
         text += code.substr(1, end - 1);
         code.remove_prefix(std::min(end + 1, code.size()));

@@ -300,8 +300,8 @@ private:
         AddLines({m_report.date}, kRowText + kHeadingGap, PaperFont(kRowText));
         lines = LinesIn(Tamed(m_report.description, kLongestDescription, true), PaperFont(kRowText), m_width);
         if (lines.size() > kMostDescriptionLines) {
-            lines.resize(kMostDescriptionLines);
-            lines.back() = "…"_cp1252;
+            lines.resize(kMostDescriptionLines - 1);
+            lines.emplace_back("…"_cp1252);
         }
         AddLines(lines, kRowText, PaperFont(kRowText));
         m_y += kPartGap / 2;

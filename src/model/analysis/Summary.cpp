@@ -76,6 +76,12 @@ SummaryRow LimitRow(const char* label, const char* format, const FullField& limi
 
 } // namespace
 
+std::string SpokenValue(const SummaryRow& row, int language)
+{
+    constexpr Bilingual kBelow{", less than wanted", ", weniger als gewünscht"_cp1252};
+    return row.warning ? row.value + kBelow.In(language) : row.value;
+}
+
 double FocalRatio(COrrevaData& record)
 {
     const double f = record.GetFocalLength();

@@ -23,6 +23,9 @@ struct SummaryRow {
 /// no angle of its field until the next recalculation.
 std::vector<SummaryRow> SummaryRows(COrrevaData& record, const FullField& field, int language);
 
+/// The value of a row as it is told to those who do not see its colour.
+std::string SpokenValue(const SummaryRow& row, int language);
+
 double FocalRatio(COrrevaData& record);
 
 /// The limits of the fully lit field, mm. The first divides by less than the run from the primary to the

@@ -15,6 +15,8 @@ std::string TextOf(const QLineEdit* edit);
 void ShowText(QLineEdit* edit, const std::string& text);
 /// Typing into one of the edits calls `typed`.
 void BindTyping(std::initializer_list<QLineEdit*> edits, const std::function<void()>& typed);
+/// For screen readers, the button is called by its field, too.
+void NameReset(QAbstractButton* button, const QLineEdit* edit);
 /// The button shows the text that `reset` makes, and calls `changed` then.
 void BindReset(
     QAbstractButton* button, QLineEdit* edit, std::function<std::string()> reset,

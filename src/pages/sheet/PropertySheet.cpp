@@ -2,6 +2,7 @@
 
 #include "pages/sheet/Controls.h"
 #include "pages/sheet/Help.h"
+#include "pages/sheet/PageArea.h"
 #include "views/HandCursorStatic.h"
 
 #include <QCoreApplication>
@@ -181,6 +182,7 @@ void CPropertySheet::AddPanel(QWidget* panel)
 {
     panel->setParent(this);
     panel->setFixedWidth(kPanelWidth);
+    m_panels += kPanelWidth + m_body->spacing();
     m_body->addWidget(panel);
 }
 
@@ -215,7 +217,7 @@ void CPropertySheet::Activate(int index)
 void CPropertySheet::Build(Entry& entry, QWidget& place)
 {
     entry.page = entry.make(&place);
-    place.layout()->addWidget(entry.page);
+    place.layout()->addWidget(new CPageArea(entry.page, RoomForPages()));
     connect(entry.page, &CPropertyPage::Modified, this, [this] { m_apply->setEnabled(true); });
     connect(entry.page, &CPropertyPage::WizardButtons, this, &CPropertySheet::ShowWizardButtons);
     entry.page->show();
@@ -225,14 +227,17 @@ void CPropertySheet::Build(Entry& entry, QWidget& place)
 
 void CPropertySheet::OpenWithRoom(QSize room)
 {
-    resize((room * logicalDpiY() / kUsualDpi).boundedTo(LargestSize()));
+    resize((room * logicalDpiY() / kUsualDpi).boundedTo(RoomOnScreen(*this)));
 }
 
-QSize CPropertySheet::LargestSize() const
+QSize CPropertySheet::RoomForPages() const
 {
-    constexpr QSize kUsualFrame(10, 40);
-    const QSize frame = frameGeometry().size() - size();
-    return screen()->availableSize() - (frame.isNull() ? kUsualFrame : frame);
+    constexpr int kFrame = 8; // of the tabs, on both sides
+    const QMargins margins = layout()->contentsMargins();
+    const QWidget* const title = m_wizard ? static_cast<QWidget*>(m_heading) : m_tabs->tabBar();
+    const int around = margins.top() + margins.bottom() + 2 * layout()->spacing() + kFrame;
+    return RoomOnScreen(*this) - QSize(margins.left() + margins.right() + m_panels + kFrame,
+                                       around + title->sizeHint().height() + m_buttons->sizeHint().height());
 }
 
 /// Moves a sheet that has grown past an edge of the screen back, so that its buttons can be reached.
@@ -254,7 +259,7 @@ void CPropertySheet::GrowFor(QWidget* page)
          widget = widget->parentWidget()) {
         QCoreApplication::sendPostedEvents(widget, QEvent::LayoutRequest);
     }
-    resize(size().expandedTo(sizeHint().boundedTo(LargestSize())));
+    resize(size().expandedTo(sizeHint().boundedTo(RoomOnScreen(*this))));
 }
 
 /// TAB meets a page before the buttons below it, though the page was built after them.

@@ -65,10 +65,9 @@ private:
     void ConnectButtons();
     void BindPageKeys();
     void Activate(int index);
-    /// How large the sheet may become: the screen without its panels and the window's frame, which is guessed
-    /// until the window has one.
-    QSize LargestSize() const;
     void StayOnScreen();
+    /// What the pages may have of the screen.
+    QSize RoomForPages() const;
     void Build(Entry& entry, QWidget& place);
     void GrowFor(QWidget* page);
     void PutButtonsLast();
@@ -82,6 +81,7 @@ private:
     QTabWidget* m_tabs;
     QLabel* m_heading; ///< the page's title where no tab shows it: in the wizard
     QHBoxLayout* m_body;
+    int m_panels = 0;            ///< their width
     QDialogButtonBox* m_buttons; ///< it shows all buttons that it holds; the others are set aside
     QPushButton* m_back;
     QPushButton* m_next;

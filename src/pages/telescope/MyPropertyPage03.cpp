@@ -23,6 +23,7 @@ CMyPropertyPage03::CMyPropertyPage03(COrrevaDoc& doc, QWidget* parent)
         BindData({m_edits[i]});
         BindReset(resets[i], m_edits[i], kFocuserFields[i].number);
     }
+    NameReset(m_ui->resetBore, m_ui->bore); // the one that is never enabled
     m_typeOfRecord = texts.type;
     for (std::size_t i = 0; i < m_types.size(); ++i) {
         m_types[i]->setChecked(static_cast<std::int32_t>(i) == m_typeOfRecord);

@@ -3,6 +3,7 @@
 #include "lib/text/Numbers.h"
 #include "model/tools/PolygonMeasures.h"
 #include "pages/sheet/Fields.h"
+#include "pages/sheet/PageArea.h"
 #include "painting/QtText.h"
 
 #include "ui_PolygonDialog.h"
@@ -10,6 +11,7 @@
 CPolygonDialog::CPolygonDialog(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::PolygonDialog>())
 {
     m_ui->setupUi(this);
+    ScrollOnSmallScreens(*this, *m_ui->m_wndPolygon);
     for (std::int32_t nType = 0; nType < kPolygonTypeCount; ++nType) {
         m_ui->type->addItem(ToQString(PolygonTypeName(nType)));
     }
