@@ -7,11 +7,11 @@
 
 namespace {
 
-constexpr Bilingual kTitle{"design summary", "Übersicht"_cp1252};
+constexpr Bilingual kSummaryPaneTitle{"design summary", "Übersicht"_cp1252};
 
 } // namespace
 
-CLeftView::CLeftView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, kTitle, parent)
+CLeftView::CLeftView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, kSummaryPaneTitle, parent)
 {
     setObjectName("leftView");
 }

@@ -12,13 +12,13 @@
 
 namespace {
 
-constexpr Bilingual kTitle{"cross-section", "Querschnitt"};
+constexpr Bilingual kSectionPaneTitle{"cross-section", "Querschnitt"};
 
 Pixel At(const QPoint& point) { return {point.x(), point.y()}; }
 
 } // namespace
 
-COrrevaView::COrrevaView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, kTitle, parent)
+COrrevaView::COrrevaView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, kSectionPaneTitle, parent)
 {
     PaintInScreenPixels();
     setObjectName("orrevaView");
