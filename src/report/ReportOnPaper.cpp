@@ -1,10 +1,8 @@
 #include "report/ReportOnPaper.h"
 
 #include "drawing/IlluminationPicture.h"
-#include "drawing/SectionMapping.h"
 #include "drawing/SectionPicture.h"
 #include "drawing/WavefrontCharts.h"
-#include "drawing/paper/PaperColours.h"
 #include "drawing/paper/PartSurface.h"
 #include "drawing/paper/SheetParts.h"
 #include "lib/text/CodePage.h"
@@ -50,15 +48,17 @@ ReportPicture ChartPicture(const Bilingual& heading, Chart chart, int language)
     });
 }
 
-/// The telescope from the side, black on white, with the scale of millimetres below it.
+/// The telescope from the side as the panes show it in high contrast, with the scale of millimetres.
 ReportPicture SectionOnPaper(const COrrevaData& record, double width, int language)
 {
     const auto copy = std::make_shared<COrrevaData>();
     static_cast<TelescopeFields&>(*copy) = record;
-    return PixelPicture(kSectionHeading.In(language), 0.42 * width, [copy](Surface& surface) {
-        PaperColours ink(surface);
-        const double scale = FitSection(*copy, {surface.Width(), surface.Height()}).scale;
-        PaintSectionAtScale(ink, *copy, scale);
+    copy->file_path = "report"; // without any, no telescope is loaded
+    return PixelPicture(kSectionHeading.In(language), 0.42 * width, [copy, language](Surface& surface) {
+        ViewSwitches switches;
+        switches.high_contrast = 1;
+        SectionZoom view;
+        PaintSection(surface, view, *copy, switches, Point{}, language);
     });
 }
 

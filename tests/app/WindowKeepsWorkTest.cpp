@@ -282,8 +282,11 @@ TEST_F(WindowKeepsWork, TheNewCommandsStandAtTheEndOfTheirMenus)
         const QList<QAction*> actions = app->Frame().findChild<QMenu*>(menu)->actions();
         return actions[actions.size() - 1 - fromTheEnd];
     };
-    EXPECT_EQ(Action(33003), last("menuFile", 0));
-    EXPECT_TRUE(last("menuFile", 1)->isSeparator());
+    EXPECT_EQ(Action(33062), last("menuFile", 0));
+    EXPECT_EQ(Action(33061), last("menuFile", 1));
+    EXPECT_TRUE(last("menuFile", 2)->isSeparator());
+    EXPECT_EQ(Action(33003), last("menuFile", 3));
+    EXPECT_TRUE(last("menuFile", 4)->isSeparator());
     EXPECT_LT(app->Frame().findChild<QMenu*>("menuEdit")->actions().indexOf(Action(32796)),
               app->Frame().findChild<QMenu*>("menuEdit")->actions().indexOf(Action(33001)));
 }
