@@ -4,6 +4,7 @@
 #include <string>
 
 #include <stdlib.h>
+#include <time.h>
 
 /// Sets a variable of the environment (null: removes it) for the time of one test.
 class Environment {
@@ -27,6 +28,7 @@ private:
         } else {
             unsetenv(m_name.c_str());
         }
+        tzset(); // the variable may be the zone of the time, which is read once otherwise
     }
 
     std::string m_name;
