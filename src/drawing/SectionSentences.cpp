@@ -13,13 +13,13 @@ namespace {
 
 constexpr Bilingual kTube{"Tube: %0.1f mm long, %0.1f mm wide inside, walls of %0.1f mm.",
                           "Tubus: %0.1f mm lang, innen %0.1f mm weit, Wände %0.1f mm dick."_cp1252};
-constexpr Bilingual kPrimary{
+constexpr Bilingual kPrimarySentence{
     "Primary: %0.1f mm in diameter, %0.1f mm thick, its face %0.1f mm behind the tube's front end.",
     "Hauptspiegel: %0.1f mm Durchmesser, %0.1f mm dick, Vorderseite %0.1f mm hinter dem vorderen Tubusende."};
-constexpr Bilingual kSecondary{
+constexpr Bilingual kSecondarySentence{
     "Secondary: minor axis %0.1f mm, its middle %0.1f mm behind the tube's front end, offset %0.2f mm.",
     "Fangspiegel: kleine Achse %0.1f mm, Mitte %0.1f mm hinter dem vorderen Tubusende, Offset %0.2f mm."};
-constexpr Bilingual kFocuser{
+constexpr Bilingual kFocuserSentence{
     "Focuser: %0.1f mm in diameter, its axis %0.1f mm behind the tube's front end, the focal plane %0.1f mm "
     "above the tube.",
     "Focuser: %0.1f mm Durchmesser, Achse %0.1f mm hinter dem vorderen Tubusende, Brennebene %0.1f mm über dem Tubus."_cp1252};
@@ -78,11 +78,12 @@ private:
 
     void AddMirrors()
     {
-        Add(kPrimary, {m_record.GetMirrorDiameter(), m_record.GetMirrorThickness(), FromFront(m_g.mirrorX)});
+        Add(kPrimarySentence,
+            {m_record.GetMirrorDiameter(), m_record.GetMirrorThickness(), FromFront(m_g.mirrorX)});
         const double middle = (m_g.secondaryLeft + m_g.secondaryRight) / 2;
         const bool offset = m_switches.show_offset != 0;
-        Add(kSecondary, {m_record.GetSecondaryDiameter(), FromFront(middle),
-                         offset ? m_record.GetSecondaryOffset() : 0.0});
+        Add(kSecondarySentence, {m_record.GetSecondaryDiameter(), FromFront(middle),
+                                 offset ? m_record.GetSecondaryOffset() : 0.0});
         if (!offset) {
             Add(kNoOffset, {});
         }
@@ -90,7 +91,7 @@ private:
 
     void AddFocuser()
     {
-        Add(kFocuser, {m_record.GetFocuserDiameter(), FromFront(m_g.focuserX), m_g.top});
+        Add(kFocuserSentence, {m_record.GetFocuserDiameter(), FromFront(m_g.focuserX), m_g.top});
         if (m_switches.show_extended_focuser != 0 && HasDrawtube(m_record)) {
             Add(kExtended, {m_record.GetOazTravel()});
         }
