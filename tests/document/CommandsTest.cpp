@@ -30,9 +30,9 @@ TEST_F(CommandTable, EnabledAsListed)
 {
     const std::set<int> always{32771, 32813, 32802, 57601, 57606, 32808, 32809, 32789,
                                32777, 32788, 32791, 32790, 32810, 33003, 33063};
-    const std::set<int> loaded{32803, 32804, 32807, 32811, 57607, 57609, 32772, 32792,
-                               32781, 32795, 32794, 32800, 32796, 32776, 32778, 32775,
-                               32779, 32780, 32786, 33021, 33022, 33023, 33041, 33061, 33062};
+    const std::set<int> loaded{32803, 32804, 32807, 32811, 57607, 57609, 32772, 32792, 32781,
+                               32795, 32794, 32800, 32796, 32776, 32778, 32775, 32779, 32780,
+                               32786, 33021, 33022, 33023, 33041, 33061, 33062};
     const auto enabled = [this](int id) {
         const Command* const command = FindCommand(id);
         return command != nullptr && IsEnabled(*command, doc);
@@ -98,11 +98,10 @@ TEST_F(CommandTable, DialogCommandsRunTheirDialog)
     const struct {
         int id;
         Modal modal;
-    } rows[] = {{32795, Modal::ArtificialStar},    {32794, Modal::FoucaultSheet},
-                {32800, Modal::RonchiSheet},       {32796, Modal::FieldSimulation},
-                {32789, Modal::Calculator},        {32777, Modal::InchCalculator},
-                {32788, Modal::PolygonCalculator}, {32791, Modal::SectorCalculator},
-                {33062, Modal::WorkshopSheets}};
+    } rows[] = {
+        {32795, Modal::ArtificialStar},    {32794, Modal::FoucaultSheet},    {32800, Modal::RonchiSheet},
+        {32796, Modal::FieldSimulation},   {32789, Modal::Calculator},       {32777, Modal::InchCalculator},
+        {32788, Modal::PolygonCalculator}, {32791, Modal::SectorCalculator}, {33062, Modal::WorkshopSheets}};
     for (const auto& row : rows) {
         host.Take();
         EXPECT_TRUE(RunCommand(row.id, doc));
