@@ -36,7 +36,8 @@ std::string Unread(const std::string& text, int language)
         return "";
     }
     if (tail.size() > kLongestTail) {
-        tail = tail.substr(0, kLongestTail) + "...";
+        tail.resize(kLongestTail);
+        tail += "...";
     }
     return FormatText(kUnread.In(language), tail.c_str());
 }
