@@ -509,8 +509,7 @@ TEST_F(TubeSheet, ThePanelStandsAtTheRightOnTheSheetsBackground)
         ASSERT_NE(nullptr, panel);
         EXPECT_EQ(285, panel->width());
         const QWidget& place = *sheet.Page(0)->parentWidget(); // where it scrolls on this small screen
-        EXPECT_LT(place.mapTo(&sheet, QPoint(place.width(), 0)).x(),
-                  panel->mapTo(&sheet, QPoint()).x());
+        EXPECT_LT(place.mapTo(&sheet, QPoint(place.width(), 0)).x(), panel->mapTo(&sheet, QPoint()).x());
         const QImage image = panel->grab().toImage();
         EXPECT_EQ(sheet.palette().color(QPalette::Window), image.pixelColor(1, 1));
         EXPECT_EQ(QColor(144, 144, 144), image.pixelColor(100, 34)) << "the line on the second row";
