@@ -50,7 +50,8 @@ int SheetsVerb(const CommandLine& words)
         UsageError("sheets needs", "-o");
     }
     const std::string path = OutputPath(words);
-    if (!IsPaperFile(path)) {
+    // Standard output has no ending; sheets have one form alone.
+    if (path != "-" && !path.starts_with("/dev/") && !path.starts_with("/proc/") && !IsPaperFile(path)) {
         UsageError("sheets do not go into", path);
     }
     const std::vector<const SheetName*> sheets = SheetsOf(words);

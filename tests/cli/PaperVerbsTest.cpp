@@ -87,6 +87,17 @@ TEST_F(PaperVerbs, WhatCannotBeMadeEndsWithOneAndOneLine)
               Cli("sheets --diameter 3000 --language de -o out.pdf").err);
 }
 
+TEST_F(PaperVerbs, SheetsGoToStandardOutput)
+{
+    for (const char* const words : {"sheets --sheet marks -o -", "sheets --sheet marks -o /dev/stdout"}) {
+        const CliRun run = Cli(words);
+        EXPECT_EQ(0, run.status) << run.err;
+        EXPECT_TRUE(run.out.starts_with("%PDF-")) << words;
+        EXPECT_EQ(1u, PagesIn(run.out));
+    }
+    EXPECT_EQ(0, folder.Count());
+}
+
 TEST_F(PaperVerbs, SheetsComeInTheOrderNamed)
 {
     EXPECT_EQ(6u, PagesIn(Make("sheets --diameter 200 --focal-length 1200")));
