@@ -6,6 +6,7 @@
 #include "lib/text/FormatText.h"
 #include "painting/QtText.h"
 #include "views/Pane.h"
+#include "views/PrintedFile.h"
 
 #include <QChildEvent>
 #include <QDir>
@@ -17,9 +18,7 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
-#include <QTemporaryDir>
 
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -40,23 +39,6 @@ QString g_folder;
 constexpr Bilingual kNotPrinted{"%s was not printed: the page could not be made.",
                                 "%s wurde nicht gedruckt: Die Seite konnte nicht erzeugt werden."};
 
-/// What the pane prints into a file, made where nothing stands yet; nothing if not all of it arrived there.
-std::optional<std::string> PrintedBytes(CPane& pane, QPrinter& printer)
-{
-    const QTemporaryDir folder;
-    const QString target = printer.outputFileName();
-    printer.setOutputFileName(folder.filePath("page.pdf"));
-    pane.OnPrint(printer);
-    QFile made(printer.outputFileName());
-    printer.setOutputFileName(target);
-    if (!made.open(QFile::ReadOnly)) {
-        return std::nullopt;
-    }
-    const QByteArray bytes = made.readAll();
-    // The toolkit does not tell that its disk is full.
-    return bytes.trimmed().endsWith("%%EOF") ? std::optional(bytes.toStdString()) : std::nullopt;
-}
-
 void Print(CPane& pane, QPrinter& printer, COrrevaDoc& document)
 {
     if (printer.outputFileName().isEmpty()) {
@@ -64,7 +46,7 @@ void Print(CPane& pane, QPrinter& printer, COrrevaDoc& document)
         return;
     }
     const std::string path = QFile::encodeName(printer.outputFileName()).toStdString();
-    if (const auto bytes = PrintedBytes(pane, printer)) {
+    if (const auto bytes = PrintedBytes(printer, [&] { pane.OnPrint(printer); })) {
         document.WriteFile(StatusTopic::Print, path, *bytes);
         return;
     }

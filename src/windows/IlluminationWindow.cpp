@@ -4,6 +4,7 @@
 #include "model/optics/IlluminationCurve.h"
 #include "painting/PainterSurface.h"
 #include "painting/PictureFile.h"
+#include "views/PrintedFile.h"
 #include "views/ResultList.h"
 #include "windows/ChartView.h"
 #include "windows/PicturePath.h"
@@ -268,13 +269,20 @@ void CIlluminationWindow::Print()
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
-    // A page as wide as the picture, whatever the printer's dots are.
-    constexpr int kPageWidth = 900;
-    const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
-    QPainter painter(&printer);
-    const double scale = static_cast<double>(page.width()) / kPageWidth;
-    painter.scale(scale, scale);
-    PaintPage(painter, QSize(kPageWidth, static_cast<int>(page.height() / scale)));
+    const auto print = [&] {
+        // A page as wide as the picture, whatever the printer's dots are.
+        constexpr int kPageWidth = 900;
+        const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
+        QPainter painter(&printer);
+        const double scale = static_cast<double>(page.width()) / kPageWidth;
+        painter.scale(scale, scale);
+        PaintPage(painter, QSize(kPageWidth, static_cast<int>(page.height() / scale)));
+    };
+    if (printer.outputFileName().isEmpty()) {
+        print();
+    } else if (const auto bytes = PrintedBytes(printer, print)) {
+        emit FileMade(printer.outputFileName(), QByteArray::fromStdString(*bytes));
+    }
 }
 
 void CIlluminationWindow::Save()

@@ -2,6 +2,7 @@
 
 #include "lib/text/Language.h"
 #include "model/optics/IlluminationCurve.h"
+#include "support/TemporaryFolder.h"
 #include "views/ResultList.h"
 #include "windows/ChartView.h"
 #include "windows/NextFileDialog.h"
@@ -10,6 +11,8 @@
 
 #include <QImage>
 #include <QLabel>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
@@ -183,6 +186,30 @@ TEST_F(IlluminationWidgets, ThePictureHasTheFormOfItsEnding)
     const QImage png = QImage::fromData(made[2][1].toByteArray(), "PNG");
     EXPECT_EQ(QSize(1200, 750), png.size());
     EXPECT_EQ(QColor(Qt::white), png.pixelColor(2, 2)); // for paper, whatever the desktop's ground
+}
+
+TEST_F(IlluminationWidgets, PrintsIntoAFileWhole)
+{
+    const QSignalSpy made(&window, &CIlluminationWindow::FileMade);
+    const TemporaryFolder folder;
+    const QString target = QString::fromStdString(folder / "light.pdf");
+    QTimer::singleShot(0, &window, [&target] {
+        auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(nullptr, dialog);
+        dialog->printer()->setOutputFileName(target);
+        dialog->done(QDialog::Accepted);
+    });
+    for (QPushButton* const button : window.findChildren<QPushButton*>()) {
+        if (button->text() == "Print...") {
+            button->click();
+        }
+    }
+    ASSERT_EQ(1, made.count());
+    EXPECT_EQ(target, made[0][0].toString());
+    const QByteArray pdf = made[0][1].toByteArray();
+    EXPECT_TRUE(pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF"));
+    EXPECT_TRUE(pdf.contains("/Count 1"));
+    EXPECT_EQ(0, folder.Count()) << "it is written by whom it is given to";
 }
 
 TEST_F(IlluminationWidgets, SpeaksGerman)
