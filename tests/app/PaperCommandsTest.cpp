@@ -58,7 +58,7 @@ TEST_F(PaperCommands, TheReportIsWrittenAndTheStatusBarSaysSo)
 TEST_F(PaperCommands, AReportThatCannotBeWrittenIsTold)
 {
     MakeTelescope();
-    app->Document().main_record.SetTitle("x");
+    app->Document().main_record.SetTitle("A report that cannot be written");
     InNextDialog<QFileDialog>([this](QFileDialog& dialog) {
         dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(folder / "report"));
         dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
