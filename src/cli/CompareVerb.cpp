@@ -13,6 +13,9 @@ int CompareVerb(const CommandLine& words)
     if (words.plain.size() > 2) {
         UsageError("too many words:", words.plain[2]);
     }
+    if (words.plain[0] == "-" && words.plain[1] == "-") {
+        UsageError("standard input is read once, not for both files:", "-");
+    }
     TerminalDocument first;
     TerminalDocument second;
     if (!MakeTelescope(words, words.plain[0], first.host, first.document) ||

@@ -258,6 +258,7 @@ TEST_F(NumberVerbs, WhatANumberVerbDoesNotUnderstandIsNamed)
         {"compare a", "a"},
         {"compare a b c", "c"},
         {"compare a b --diameter 3", "--diameter"},
+        {"compare - -", "-"},
         {"check --only focal_ratio", "--only"},
         {"check a b", "b"},
         {"check --format xml", "xml"},
