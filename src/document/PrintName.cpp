@@ -8,7 +8,7 @@
 
 std::string DesignName(const COrrevaData& record)
 {
-    const std::string title = record.GetTitle().GetText();
+    std::string title = record.GetTitle().GetText();
     if (title.find_first_not_of(' ') != std::string::npos) {
         return title;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -40,7 +41,7 @@ struct Font {
     /// The same font, so many times as large.
     Font Scaled(double times) const
     {
-        return {static_cast<std::int32_t>(height * times + 0.5), weight, upright};
+        return {static_cast<std::int32_t>(std::lround(height * times)), weight, upright};
     }
 
     static constexpr std::int32_t kNormal = 200;

@@ -150,6 +150,7 @@ double TotalOf(const std::vector<double>& columns)
 void FitColumns(std::vector<double>& columns, double room)
 {
     std::vector<double*> byWidth;
+    byWidth.reserve(columns.size());
     for (double& width : columns) {
         byWidth.push_back(&width);
     }
