@@ -17,16 +17,20 @@ bool IsLetter(const QKeyEvent& event)
     return others == Qt::NoModifier && event.text().size() == 1 && event.text().at(0).isLetterOrNumber();
 }
 
+bool IsMarked(const QString& text) { return !QKeySequence::mnemonic(text).isEmpty(); }
+
+/// The item that is marked with a letter, or else those that begin with it.
 QList<QAction*> ItemsOf(const QWidget& menu, QChar letter)
 {
-    QList<QAction*> items;
+    QList<QAction*> marked;
+    QList<QAction*> others;
     for (QAction* const item : menu.actions()) {
         if (item->isVisible() && item->isEnabled() && !item->isSeparator() &&
             MenuLetter(item->text()) == letter) {
-            items << item;
+            (IsMarked(item->text()) ? marked : others) << item;
         }
     }
-    return items;
+    return marked.isEmpty() ? others : marked;
 }
 
 QAction* NextOf(const QList<QAction*>& items, QAction* active)

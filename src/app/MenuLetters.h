@@ -6,8 +6,9 @@ class QAction;
 class QMainWindow;
 class QWidget;
 
-/// In an open menu, and in the menu bar while it has the keyboard, a letter goes to the next item that is
-/// marked with it or, without a mark, begins with it; the only such item is chosen at once.
+/// In an open menu, and in the menu bar while it has the keyboard, a letter chooses the item that is marked
+/// with it. Where none is, it goes to the next one without a mark that begins with it; the only such item is
+/// chosen at once.
 class CMenuLetters : public QObject {
     Q_OBJECT
 

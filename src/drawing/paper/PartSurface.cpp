@@ -72,12 +72,6 @@ PixelRect PartSurface::Scaled(const PixelRect& rect) const
     return {Across(rect.left), Down(rect.top), Across(rect.right), Down(rect.bottom)};
 }
 
-Font PartSurface::Scaled(Font font) const
-{
-    font.height = TruncToInt32(static_cast<double>(font.height) * m_scale);
-    return font;
-}
-
 bool PartSurface::IsInside(const PixelRect& rect) const
 {
     return rect.left >= m_place.left && rect.top >= m_place.top && rect.right <= m_place.right &&
@@ -161,12 +155,12 @@ void PartSurface::Text(Pixel at, std::string_view text, const Font& font, Colour
     const Pixel corner = Corner(at);
     if (IsInside({corner.x, corner.y, corner.x, corner.y})) {
         const std::int32_t room = font.upright ? corner.y - m_place.top : m_place.right - corner.x;
-        m_page.Text(corner, CutToWidth(text, Scaled(font), room), Scaled(font), colour);
+        m_page.Text(corner, CutToWidth(text, font.Scaled(m_scale), room), font.Scaled(m_scale), colour);
     }
 }
 
 std::int32_t PartSurface::WrappedText(const PixelRect& box, std::string_view text, const Font& font,
                                       Colour colour)
 {
-    return m_page.WrappedText(Scaled(box), text, Scaled(font), colour) / m_scale;
+    return m_page.WrappedText(Scaled(box), text, font.Scaled(m_scale), colour) / m_scale;
 }

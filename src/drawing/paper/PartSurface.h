@@ -28,7 +28,6 @@ private:
     Pixel Corner(Pixel pixel) const { return {Across(pixel.x), Down(pixel.y)}; }
     Pixel Middle(Pixel pixel) const;
     PixelRect Scaled(const PixelRect& rect) const;
-    Font Scaled(Font font) const;
     bool IsInside(const PixelRect& rect) const;
 
     Surface& m_page;
