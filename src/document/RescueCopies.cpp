@@ -226,15 +226,12 @@ bool RescueCopies::IsRunning(const std::string& id) const
 std::vector<RescueCopies::Entry> RescueCopies::Entries() const
 {
     std::vector<Entry> entries;
-    std::error_code error;
-    for (fs::directory_iterator at(m_folder, error); !error && at != fs::directory_iterator();
-         at.increment(error)) {
-        const std::string name = at->path().filename().string();
+    for (const std::string& name : FolderNames(m_folder)) {
         const std::string id = name.substr(0, name.find('.'));
         if (!IsId(id) || name != id + kNoteEnding || IsRunning(id)) {
             continue;
         }
-        const auto text = ReadFileBytes(at->path().c_str(), kLongestNote);
+        const auto text = ReadFileBytes(FileOf(id, kNoteEnding).c_str(), kLongestNote);
         const auto note = text ? RescueNote::Parse(*text) : std::nullopt;
         if (note) {
             const auto size = static_cast<std::uint64_t>(FileSize(FileOf(id, kDesignEnding).c_str()));
@@ -302,14 +299,11 @@ void RescueCopies::RemoveRemains() const
 {
     constexpr std::int64_t kDay = 86'400'000'000'000;
     const std::string latest = NewId(RescueNote::Now().nanoseconds - kDay);
-    std::error_code error;
-    for (fs::directory_iterator at(m_folder, error); !error && at != fs::directory_iterator();
-         at.increment(error)) {
-        const std::string name = at->path().filename().string();
+    for (const std::string& name : FolderNames(m_folder)) {
         const std::string id = name.substr(0, name.find('.'));
         const bool ours = IsId(id) && (name == id + kDesignEnding || name == id + kLockEnding);
         if (ours && id < latest && FileExists(FileOf(id, kNoteEnding).c_str()) == 0 && !IsRunning(id)) {
-            unlink(at->path().c_str());
+            unlink((fs::path(m_folder) / name).c_str());
         }
     }
 }

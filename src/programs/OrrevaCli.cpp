@@ -10,7 +10,6 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -33,19 +32,6 @@ int Run(const std::vector<std::string>& arguments)
 
 constexpr const char* kNoMemory = "not enough memory";
 
-/// What the memory cannot hold is one line, on whichever thread it is found. Anything else that nobody caught
-/// is a fault of the program.
-void OnUncaught()
-{
-    try {
-        std::rethrow_exception(std::current_exception());
-    } catch (const std::bad_alloc&) {
-        std::_Exit(Fail(kNoMemory));
-    } catch (...) {
-        std::abort();
-    }
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -53,7 +39,6 @@ int main(int argc, char** argv)
     std::signal(SIGPIPE, SIG_IGN); // a reader that has seen enough ends the output as a failed write,
     std::signal(SIGXFSZ, SIG_IGN); // and so does a file that may not grow
     SetLogSink(nullptr);           // standard error is for the user, in a debug build too
-    std::set_terminate(OnUncaught);
     try {
         return Run(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
     } catch (const UsageFault& fault) {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <condition_variable>
+#include <exception>
 #include <mutex>
-#include <system_error>
 #include <thread>
 
 namespace {
@@ -49,12 +49,13 @@ public:
     OrderedBlocks(const Variation& variation, const TableLayout& layout, std::size_t jobs)
         : m_variation(variation), m_layout(layout), m_count(BlockCount(variation)), m_slots(2 * jobs)
     {
+        m_threads.reserve(jobs); // so that nothing but a thread itself can be refused below
         try {
             while (m_threads.size() < jobs) {
                 m_threads.emplace_back([this] { Work(); });
             }
-        } catch (const std::system_error&) {
-            // The system has no more threads to give: those that there are do it, and Take if there is none.
+        } catch (const std::exception&) {
+            // The system has no more threads to give, or no memory for one: those that there are do it.
         }
     }
     ~OrderedBlocks()
@@ -70,12 +71,15 @@ public:
 
     bool HasThreads() const { return !m_threads.empty(); }
 
-    /// The next block's text, swapped into `text`.
+    /// The next block's text, swapped into `text`; throws what ended the work on any block.
     void Take(std::string& text)
     {
         std::unique_lock lock(m_mutex);
         Slot& slot = SlotOf(m_taken);
-        m_changed.wait(lock, [&slot] { return slot.ready; });
+        m_changed.wait(lock, [&] { return slot.ready || m_failure; });
+        if (m_failure) {
+            std::rethrow_exception(m_failure);
+        }
         slot.text.swap(text);
         slot.ready = false;
         ++m_taken;
@@ -95,6 +99,18 @@ private:
     }
 
     void Work()
+    {
+        try {
+            MakeBlocks();
+        } catch (...) {
+            const std::lock_guard lock(m_mutex);
+            m_failure = std::current_exception();
+            m_next = m_count; // the other threads end, too
+            m_changed.notify_all();
+        }
+    }
+
+    void MakeBlocks()
     {
         BlockMaker maker(m_variation, m_layout);
         std::string text;
@@ -121,6 +137,7 @@ private:
     std::vector<Slot> m_slots;
     std::int64_t m_next = 0;  ///< the block that nobody has begun
     std::int64_t m_taken = 0; ///< blocks that are out
+    std::exception_ptr m_failure;
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::vector<std::jthread> m_threads; ///< last: they end before what they use does

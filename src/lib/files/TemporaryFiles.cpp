@@ -1,6 +1,7 @@
 #include "lib/files/TemporaryFiles.h"
 
 #include "lib/files/Descriptors.h"
+#include "lib/files/FileQueries.h"
 
 #include <algorithm>
 #include <atomic>
@@ -219,13 +220,11 @@ bool TemporaryFile::RenameTo(const std::string& path)
 
 void RemoveStaleFiles(const std::string& folder)
 {
-    std::error_code error;
-    fs::directory_iterator entries(folder.empty() ? "." : folder, error);
-    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
-        const std::string path = entries->path().string();
-        if (!IsTemporaryName(entries->path().filename().string())) {
+    for (const std::string& name : FolderNames(folder)) {
+        if (!IsTemporaryName(name)) {
             continue;
         }
+        const std::string path = (fs::path(folder) / name).string();
         const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
         struct stat status = {};
         if (file && fstat(file.Number(), &status) == 0 && S_ISREG(status.st_mode) &&

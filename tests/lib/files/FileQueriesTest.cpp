@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <sys/stat.h>
 
@@ -67,6 +69,23 @@ TEST(FileQueries, SizeIsThatOfALargeFile)
     folder.Write("sparse", "");
     fs::resize_file((folder / "sparse"), 5'000'000'000);
     EXPECT_EQ(5'000'000'000, FileSize((folder / "sparse").c_str()));
+}
+
+TEST(FileQueries, AFolderNamesWhatStandsInIt)
+{
+    const TemporaryFolder folder;
+    folder.Write(".hidden", "");
+    folder.Write("a b.xml", "");
+    fs::create_directory(folder / "under");
+    folder.Write("under/deeper", "");
+    const std::vector<std::string> expected = {".hidden", "a b.xml", "under"};
+    for (const std::string& name : {folder.Path().string(), folder / "", std::string()}) {
+        std::vector<std::string> names = FolderNames(name);
+        std::ranges::sort(names);
+        EXPECT_EQ(expected, names) << name;
+    }
+    EXPECT_TRUE(FolderNames(folder / "missing").empty());
+    EXPECT_TRUE(FolderNames(folder / ".hidden").empty());
 }
 
 } // namespace
