@@ -13,7 +13,6 @@ constexpr Bilingual kSummaryPaneTitle{"design summary", "Übersicht"_cp1252};
 
 CLeftView::CLeftView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, kSummaryPaneTitle, parent)
 {
-    setObjectName("leftView");
 }
 
 void CLeftView::PaintAt(Surface& surface, std::int32_t fontHeight)

@@ -21,7 +21,6 @@ Pixel At(const QPoint& point) { return {point.x(), point.y()}; }
 COrrevaView::COrrevaView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, kSectionPaneTitle, parent)
 {
     PaintInScreenPixels();
-    setObjectName("orrevaView");
     setMouseTracking(true);
 }
 

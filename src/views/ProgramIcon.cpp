@@ -7,11 +7,9 @@
 #include <cmath>
 #include <cstring>
 
-QIcon ProgramIcon(const QString& name)
+QPixmap ProgramPicture(const QString& name, int scale)
 {
-    constexpr int kLargestScale = 3;
     constexpr qsizetype kBytes = 4; // a pixel
-    const int scale = std::clamp(static_cast<int>(std::ceil(qGuiApp->devicePixelRatio())), 1, kLargestScale);
     const QByteArray bytes = QResource(QString(":/icons/%1-%2.argb").arg(name).arg(scale)).uncompressedData();
     qint32 width = 0;
     if (bytes.size() <= qsizetype{sizeof width}) {
@@ -23,5 +21,12 @@ QIcon ProgramIcon(const QString& name)
     const QImage picture(pixels, width, height, QImage::Format_ARGB32_Premultiplied);
     QPixmap pixmap = QPixmap::fromImage(picture.copy());
     pixmap.setDevicePixelRatio(scale);
-    return QIcon(pixmap);
+    return pixmap;
+}
+
+QIcon ProgramIcon(const QString& name)
+{
+    constexpr int kLargestScale = 3;
+    const int scale = std::clamp(static_cast<int>(std::ceil(qGuiApp->devicePixelRatio())), 1, kLargestScale);
+    return QIcon(ProgramPicture(name, scale));
 }

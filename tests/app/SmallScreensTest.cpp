@@ -105,45 +105,6 @@ void SmallScreens::ExpectResetsNameTheirFields()
     EXPECT_EQ(29, resets); // with those of a truss there would be four more
 }
 
-TEST(PageArea, AsksForNoMoreThanTheRoom)
-{
-    const auto page = [] {
-        auto* const wide = new QWidget;
-        wide->setMinimumSize(600, 520);
-        return wide;
-    };
-    CPageArea roomy(page(), QSize(700, 600));
-    EXPECT_EQ(QSize(600, 520), roomy.minimumSizeHint());
-    EXPECT_EQ(QSize(600, 520), roomy.sizeHint());
-    CPageArea narrow(page(), QSize(300, 200));
-    EXPECT_EQ(QSize(300, 200), narrow.minimumSizeHint());
-    CPageArea low(page(), QSize(1000, 200));
-    EXPECT_EQ(200, low.minimumSizeHint().height());
-    EXPECT_LT(600, low.minimumSizeHint().width()) << "and the scroll bar's width";
-}
-
-TEST(PageArea, ScrollsToTheFieldThatTakesTheKeyboard)
-{
-    auto* const page = new QWidget;
-    page->setMinimumSize(300, 900);
-    auto* const first = new QLineEdit(page);
-    auto* const last = new QLineEdit(page);
-    first->move(0, 0);
-    last->move(0, 860);
-    QWidget window;
-    auto* const area = new CPageArea(page, QSize(300, 200));
-    area->setParent(&window);
-    area->resize(300, 200);
-    window.resize(300, 200);
-    window.show();
-    window.activateWindow();
-    QCoreApplication::processEvents();
-    first->setFocus();
-    QTest::keyClick(first, Qt::Key_Tab);
-    ASSERT_TRUE(last->hasFocus());
-    EXPECT_TRUE(area->viewport()->rect().contains(last->mapTo(area->viewport(), QPoint(5, 5))));
-}
-
 TEST_F(SmallScreens, HaveRoomForEveryDialog) { ExpectDialogsHaveRoom(); }
 TEST_F(SmallScreensGerman, HaveRoomForEveryDialog) { ExpectDialogsHaveRoom(); }
 TEST_F(SmallScreens, HaveTheButtonsOfEverySheet) { ExpectSheetsStayOnTheScreen(); }

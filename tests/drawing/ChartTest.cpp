@@ -267,6 +267,8 @@ TEST_F(ChartPicture, PaintsItsBandBetweenPlotAndTicks)
     ASSERT_EQ(4u, fills.size());
     EXPECT_EQ(rect.bottom, fills[1].rect.top);
     EXPECT_EQ(rect.left, fills[1].rect.left);
+    EXPECT_LT(fills[1].rect.bottom, TextOf("field mm")->at.y) << "the axis stands below it";
+    EXPECT_LE(TextOf("field mm")->at.y + TextOf("field mm")->font.height, surface.Height());
     EXPECT_EQ(fills[1].rect.right, fills[2].rect.left);
     EXPECT_EQ(rect.right, fills[3].rect.right);
     EXPECT_TRUE(TextOf("tube"));

@@ -27,6 +27,17 @@ TEST(ProgramIcon, EveryDrawingHasItsPicture)
     }
 }
 
+/// The picture of twice the pixels takes the same room.
+TEST(ProgramIcon, ALargerScaleIsAsLargeOnTheScreen)
+{
+    const QSizeF once = ProgramPicture("info", 1).deviceIndependentSize();
+    for (const int scale : {2, 3}) {
+        const QPixmap larger = ProgramPicture("info", scale);
+        EXPECT_EQ(once * scale, QSizeF(larger.size()));
+        EXPECT_EQ(once, larger.deviceIndependentSize());
+    }
+}
+
 TEST(ProgramIcon, AnUnknownNameIsNoIcon) { EXPECT_TRUE(ProgramIcon("no-such-icon").isNull()); }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -54,6 +55,19 @@ TEST(ResultList, CopiesTheSelectedRowsAsText)
     QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ("second\t2\nfirst\t1", QGuiApplication::clipboard()->text());
     EXPECT_EQ(0, list.SelectedRow());
+}
+
+TEST(ResultList, ItsContextMenuCopies)
+{
+    CResultList list;
+    list.SetColumns(kColumns, kEnglish);
+    list.SetRows({{"second", "2"}, {"first", "1"}});
+    EXPECT_EQ(Qt::ActionsContextMenu, list.contextMenuPolicy());
+    ASSERT_EQ(1, list.actions().size());
+    EXPECT_EQ("Copy", list.actions().front()->text());
+    list.selectAll();
+    list.actions().front()->trigger();
+    EXPECT_EQ("first\t1\nsecond\t2", QGuiApplication::clipboard()->text());
 }
 
 TEST(ResultList, CopyingWithoutASelectionLeavesTheClipboardAlone)

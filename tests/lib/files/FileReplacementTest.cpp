@@ -1,4 +1,5 @@
 #include "lib/files/FileBytes.h"
+#include "lib/files/FileRights.h"
 #include "lib/files/TemporaryFiles.h"
 
 #include "support/OrdinaryUser.h"
@@ -148,6 +149,35 @@ TEST(FileReplacement, KeepsAccessLists)
     EXPECT_TRUE(ReplaceFile(path.c_str(), "new"));
     EXPECT_EQ(list, Attribute(path, "system.posix_acl_access"));
     EXPECT_EQ(0660u, StatusOf(path).st_mode & 07777u);
+}
+
+/// An access list is kept with the group that it speaks of, or not at all, and that is told.
+TEST(TakeRights, TellsWhetherAListIsKept)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a file of a group that is not the user's";
+    }
+    const TemporaryFolder folder;
+    chmod(folder.Path().c_str(), 0777);
+    const auto taken = [&](const std::string& from) {
+        const int fd = open((folder / "new").c_str(), O_RDWR | O_CREAT | O_TRUNC, 0600);
+        const bool complete = TakeRights(fd, from, StatusOf(from));
+        close(fd);
+        unlink((folder / "new").c_str());
+        return complete;
+    };
+    const std::string plain = folder.Write("plain", "old");
+    const std::string listed = folder.Write("listed", "old");
+    const std::string list = AccessList();
+    if (setxattr(listed.c_str(), "system.posix_acl_access", list.data(), list.size(), 0) != 0) {
+        GTEST_SKIP() << "the file system knows none";
+    }
+    for (const std::string& path : {plain, listed}) {
+        ASSERT_EQ(0, chown(path.c_str(), 65534, 54321));
+        EXPECT_TRUE(taken(path)) << "root keeps any group";
+    }
+    EXPECT_EQ(1, AsOrdinaryUser([&] { return taken(plain) ? 1 : 0; })) << "rights that go are no failure";
+    EXPECT_EQ(0, AsOrdinaryUser([&] { return taken(listed) ? 1 : 0; }));
 }
 
 TEST(FileReplacement, TakesNoAccessListFromTheFolder)
