@@ -261,6 +261,28 @@ TEST_F(FoucaultPages, AWrongCellIsMarkedAndToldAndKeepsItsText)
     });
 }
 
+TEST_F(FoucaultPages, TheTableHasAHeadingForEachRunAndForWhatComesOfThem)
+{
+    ReadingBook book;
+    ReadingSeries& series = book.series.emplace_back();
+    series.zones = {{"30", {"0", "0.1"}}, {"90", {"3", "3.3"}}};
+    Document().StoreReadings(book);
+    Main().SetModified(0);
+    InFoucaultSheet([](CPropertySheetCouder& sheet) {
+        const QAbstractItemModel& table = *Readings(sheet).model();
+        QStringList headings;
+        for (int i = 0; i < table.columnCount(); ++i) {
+            headings << table.headerData(i, Qt::Horizontal).toString();
+        }
+        EXPECT_EQ("Radius (mm)", headings.front());
+        EXPECT_EQ("Reading 1", headings[1]);
+        EXPECT_EQ("Mean", headings[headings.size() - 2]);
+        EXPECT_EQ("Spread", headings.back());
+        EXPECT_EQ("Reading " + QString::number(headings.size() - 3), headings[headings.size() - 3]);
+        EXPECT_EQ(1, headings.count("Mean"));
+    });
+}
+
 TEST_F(FoucaultPages, ABlockIsPastedAndCopied)
 {
     GiveSphere();
@@ -290,6 +312,17 @@ TEST_F(FoucaultPages, ABlockIsPastedAndCopied)
         StandOn(view, 1, 0);
         Click(PageOf(sheet, kReadings), 1112);
         EXPECT_EQ("90", Cell(view, 1, 0));
+    });
+}
+
+TEST_F(FoucaultPages, AZoneIsTakenFromASeriesAlone)
+{
+    InFoucaultSheet([](CPropertySheetCouder& sheet) {
+        const auto* const remove = FindControl<QPushButton>(&PageOf(sheet, kReadings), 1112);
+        EXPECT_FALSE(remove->isEnabled());
+        Click(PageOf(sheet, kSeries), 1102);
+        PageOf(sheet, kReadings);
+        EXPECT_TRUE(remove->isEnabled());
     });
 }
 
@@ -329,6 +362,21 @@ TEST_F(FoucaultPages, TheWavefrontFollowsReadingsConicWavelengthAndSource)
         QTest::keyClick(source, Qt::Key_Down);
         EXPECT_NE(moving, Cell(*results, 5, 1));
         EXPECT_EQ("fixed", Cell(SeriesTable(sheet), 0, 2));
+    });
+}
+
+TEST_F(FoucaultPages, ConicAndWavelengthOfTheReadingsAreShown)
+{
+    GiveSphere();
+    ReadingBook book = Kept();
+    book.conic = -0.5;
+    book.wavelength = 600;
+    Document().StoreReadings(book);
+    Main().SetModified(0);
+    InFoucaultSheet([](CPropertySheetCouder& sheet) {
+        const QWidget& page = PageOf(sheet, kWavefront);
+        EXPECT_EQ(-0.5, FindControl<QLineEdit>(&page, 1121)->text().toDouble());
+        EXPECT_EQ(600, FindControl<QLineEdit>(&page, 1122)->text().toDouble());
     });
 }
 

@@ -92,6 +92,7 @@ TEST_F(RonchiSheet, TheSheetLeavesRoomForItsFrameOnALowScreen)
         const int high = sheet.screen()->availableSize().height();
         ASSERT_GT(830, high) << "the picture asks for 790 pixels, a title bar for some 40";
         EXPECT_GE(high - 40, sheet.height());
+        EXPECT_EQ(690, sheet.width());
     });
 }
 

@@ -173,6 +173,21 @@ TEST_F(TubeSheet, AKeystrokeRepaintsViewsAndPanelByItself)
     }
 }
 
+TEST_F(TubeSheet, AChoiceOfTrussesRepaintsViewsAndPanelByItself)
+{
+    Main().SetTubeType(3);
+    InTubeSheet([&](CPropertySheetTube& sheet) {
+        auto* const list = FindControl<QComboBox>(&PageOf(sheet, 1), 1071);
+        list->setFocus();
+        PaintCounter panel(*sheet.findChild<CTubePanel*>());
+        PaintCounter section(app->Frame().RightView());
+        QTest::keyClick(list, Qt::Key_Down);
+        EXPECT_EQ(4, Scratch().GetTubeType());
+        EXPECT_LE(1, panel.Take());
+        EXPECT_LE(1, section.Take());
+    });
+}
+
 TEST_F(TubeSheet, StoresEachFieldOfTheFirstPage)
 {
     InTubeSheet([&](CPropertySheetTube& sheet) {
