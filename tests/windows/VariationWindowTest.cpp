@@ -75,6 +75,21 @@ TEST_F(VariationWindow, AClickTellsTheValuesAndWantsATrial)
               told->text());
 }
 
+TEST_F(VariationWindow, OnlyALeftClickInThePlotIsAClick)
+{
+    ASSERT_TRUE(Wait());
+    auto* const chart = window.findChild<CChartView*>();
+    QSignalSpy clicked(chart, &CChartView::Clicked);
+    const QPoint inside = chart->rect().center();
+    QTest::mouseClick(chart, Qt::RightButton, {}, inside);
+    QTest::mouseClick(chart, Qt::LeftButton, {}, QPoint(1, chart->height() - 1));
+    EXPECT_EQ(0, clicked.count());
+    QTest::mouseClick(chart, Qt::LeftButton, {}, inside);
+    ASSERT_EQ(1, clicked.count());
+    EXPECT_GT(clicked[0][0].toDouble(), 30);
+    EXPECT_LT(clicked[0][0].toDouble(), 120);
+}
+
 TEST_F(VariationWindow, ARangeThatIsNoneIsTold)
 {
     ASSERT_TRUE(Wait());

@@ -240,6 +240,39 @@ TEST_F(FoucaultPages, EnterWalksDownARunAndOnToTheNextAndTabAlongAZone)
     });
 }
 
+TEST_F(FoucaultPages, TabStepsOverWhatNobodyTypes)
+{
+    GiveSphere();
+    InFoucaultSheet([](CPropertySheetCouder& sheet) {
+        CReadingsView& view = Readings(sheet);
+        const auto press = [&](int key) {
+            view.setFocus();
+            QTest::keyClick(&view, static_cast<Qt::Key>(key));
+            if (QLineEdit* const editor = EditorOf(view)) {
+                QTest::keyClick(editor, Qt::Key_Escape);
+            }
+            QCoreApplication::processEvents();
+        };
+        ASSERT_EQ(5, view.model()->columnCount()); // radius, a run, one to be filled, mean and spread
+        StandOn(view, 0, 2);
+        press(Qt::Key_Tab);
+        EXPECT_EQ(view.model()->index(1, 0), view.currentIndex());
+        press(Qt::Key_Backtab);
+        EXPECT_EQ(view.model()->index(0, 2), view.currentIndex());
+    });
+}
+
+TEST_F(FoucaultPages, EveryPageShowsTheSeriesThatIsChosen)
+{
+    GiveSphere("A");
+    GiveSphere("B");
+    InFoucaultSheet([](CPropertySheetCouder& sheet) {
+        auto* const series = FindControl<QComboBox>(&PageOf(sheet, kSetup), 1093);
+        QTest::keyClick(series, Qt::Key_Down);
+        EXPECT_EQ("B", FindControl<QComboBox>(&PageOf(sheet, kReadings), 1111)->currentText());
+    });
+}
+
 TEST_F(FoucaultPages, AWrongCellIsMarkedAndToldAndKeepsItsText)
 {
     GiveSphere();
