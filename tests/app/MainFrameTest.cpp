@@ -25,6 +25,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWindow>
 
 #include <cmath>
 
@@ -247,6 +248,25 @@ TEST_F(MainFrame, StartsWithoutATelescope)
         fields << field->objectName();
     }
     EXPECT_EQ((QStringList{"message", "trial", "state", "CAP", "NUM", "SCRL"}), fields);
+}
+
+/// A key that the desktop sends counts once, however many widgets it passes.
+TEST_F(MainFrame, TheIndicatorsFollowTheLockKeys)
+{
+    QWindow* const window = app->Frame().windowHandle();
+    const auto on = [this](const char* name) { return app->Frame().findChild<QLabel*>(name)->isEnabled(); };
+    EXPECT_FALSE(on("CAP") || on("NUM") || on("SCRL"));
+    QTest::keyClick(window, Qt::Key_ScrollLock);
+    EXPECT_TRUE(on("SCRL"));
+    EXPECT_FALSE(on("CAP") || on("NUM"));
+    QTest::keyClick(window, Qt::Key_ScrollLock);
+    EXPECT_FALSE(on("SCRL"));
+    QTest::keyClick(window, Qt::Key_CapsLock);
+    QTest::keyClick(window, Qt::Key_ScrollLock); // an event tells of the other locks: none is on here
+    EXPECT_FALSE(on("CAP"));
+    EXPECT_TRUE(on("SCRL"));
+    QTest::keyClick(window, Qt::Key_NumLock);
+    EXPECT_TRUE(on("NUM") && on("SCRL"));
 }
 
 TEST_F(MainFrame, QuickNewByKeysMakesATelescope)

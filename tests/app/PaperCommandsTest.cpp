@@ -2,6 +2,7 @@
 
 #include "app/AppFixture.h"
 
+#include "app/ExportFile.h"
 #include "document/Commands.h"
 #include "views/PaperPreview.h"
 
@@ -53,6 +54,17 @@ TEST_F(PaperCommands, TheReportIsWrittenAndTheStatusBarSaysSo)
     EXPECT_TRUE(Status().startsWith("Written: ")) << Status().toStdString();
     EXPECT_TRUE(Status().endsWith("report.pdf"));
     EXPECT_EQ(1, folder.Count()) << "nothing else is left";
+}
+
+TEST_F(PaperCommands, ThePictureOfAWindowTakesTheWordOfTheCommandBefore)
+{
+    MakeTelescope();
+    Choose(id::kSave);
+    ASSERT_TRUE(Status().endsWith("noname.orreva.xml")) << Status().toStdString();
+    ExportFile(app->Document(), QString::fromStdString(folder / "curve.svg"), "<svg/>");
+    EXPECT_EQ("<svg/>", folder.Read("curve.svg"));
+    EXPECT_TRUE(Status().endsWith("curve.svg"));
+    EXPECT_FALSE(Status().contains("noname"));
 }
 
 TEST_F(PaperCommands, AReportThatCannotBeWrittenIsTold)

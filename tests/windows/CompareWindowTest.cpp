@@ -2,6 +2,7 @@
 
 #include "support/SampleScopes.h"
 #include "views/ResultList.h"
+#include "windows/SectionPair.h"
 
 #include <gtest/gtest.h>
 
@@ -73,6 +74,25 @@ TEST_F(CompareWindow, RowsCopyAsTabSeparatedText)
     list->CopySelection();
     EXPECT_EQ(QString("Diameter of the artificial star\t0.05\t\u2013\tmm"),
               QGuiApplication::clipboard()->text().trimmed());
+}
+
+TEST_F(CompareWindow, TheTwoCrossSectionsReachTheEdgesAndLeaveAGap)
+{
+    CSectionPair pair;
+    pair.ShowDesigns(present, other);
+    pair.resize(406, 150); // twice 200, and 6 between
+    const QImage image = pair.grab().toImage();
+    const QColor ground = image.pixelColor(1, 1);
+    const QColor gap = pair.palette().color(QPalette::Window);
+    ASSERT_NE(ground, gap);
+    for (const int x : {0, 199, 206, 405}) {
+        EXPECT_EQ(ground, image.pixelColor(x, 1)) << x;
+    }
+    for (const int x : {200, 205}) {
+        EXPECT_EQ(gap, image.pixelColor(x, 1)) << x;
+    }
+    // The same design twice is the same picture twice.
+    EXPECT_EQ(image.copy(0, 0, 200, 150), image.copy(206, 0, 200, 150));
 }
 
 TEST_F(CompareWindow, AnyDesignIsShown)

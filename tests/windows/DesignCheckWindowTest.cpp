@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QHeaderView>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTableWidget>
@@ -30,6 +31,7 @@ TEST_F(DesignCheckWidgets, TheWindowShowsSeveritySentenceAndRemedy)
     window.ShowFindings(Findings());
     EXPECT_EQ(0, table->rowCount());
     EXPECT_EQ("The check finds nothing to complain of.", message->text());
+    EXPECT_TRUE(table->verticalHeader()->isHidden()) << "findings have no numbers";
 
     record.SetDistanceFront(20);
     window.ShowFindings(Findings());
@@ -101,6 +103,18 @@ TEST(SeverityMark, DiffersByShapeAndNotByColourAlone)
             EXPECT_NE(marks[i], marks[k]) << i << " " << k;
         }
     }
+}
+
+/// The cross of an error: white at its middle and at the same distance along both diagonals.
+TEST(SeverityMark, AnErrorIsCrossed)
+{
+    const QImage mark = SeverityMark(Severity::kError).pixmap(64, 64).toImage();
+    for (const int x : {24, 32, 40}) {
+        for (const int y : {x, 64 - x}) {
+            EXPECT_EQ(QColor(Qt::white), mark.pixelColor(x, y)) << x << ' ' << y;
+        }
+    }
+    EXPECT_NE(QColor(Qt::white), mark.pixelColor(32, 20));
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QHeaderView>
 #include <QImage>
 #include <QLabel>
 #include <QPrintDialog>
@@ -132,7 +133,17 @@ TEST_F(IlluminationWidgets, HasThePointsAsATable)
     ASSERT_EQ(41, points->RowCount());
     EXPECT_EQ("0.00 mm", points->Cell(0, 0));
     EXPECT_EQ("25.40 mm", points->Cell(40, 0));
-    EXPECT_FALSE(points->accessibleName().isEmpty());
+}
+
+TEST_F(IlluminationWidgets, ATableAndACurveSayWhatTheyShow)
+{
+    for (const auto* const view : window.findChildren<QAbstractItemView*>()) {
+        EXPECT_TRUE(qobject_cast<const QHeaderView*>(view) != nullptr || !view->accessibleName().isEmpty())
+            << view->metaObject()->className();
+    }
+    for (const auto* const chart : window.findChildren<CChartView*>()) {
+        EXPECT_FALSE(chart->accessibleName().isEmpty()) << chart->objectName().toStdString();
+    }
 }
 
 TEST_F(IlluminationWidgets, ShowsThatThereIsNone)

@@ -17,6 +17,7 @@
 #include <QSpinBox>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -60,6 +61,21 @@ TEST_F(VariationWindow, ProposesHalfToTwiceThePresentNumber)
     window.findChildren<QComboBox*>().at(0)->setCurrentText("Focal length");
     EXPECT_EQ("500", Edit(0)->text());
     EXPECT_EQ("2000", Edit(1)->text());
+}
+
+TEST_F(VariationWindow, EveryFieldHasItsLabel)
+{
+    const auto fields = window.findChildren<QLineEdit*>();
+    int named = 0;
+    for (const QLabel* const label : window.findChildren<QLabel*>()) {
+        named += label->buddy() != nullptr && !label->text().isEmpty() ? 1 : 0;
+    }
+    // parameter, from, to, points and four values
+    EXPECT_EQ(8, named);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_TRUE(std::ranges::any_of(window.findChildren<QLabel*>(),
+                                        [&](const QLabel* label) { return label->buddy() == fields[i]; }));
+    }
 }
 
 TEST_F(VariationWindow, AClickTellsTheValuesAndWantsATrial)
