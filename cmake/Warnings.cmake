@@ -4,7 +4,7 @@ add_library(orreva_warnings INTERFACE)
 target_compile_options(orreva_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wcast-qual -Wmissing-declarations
   # g++ 12 sees overlaps and overruns in the joining and assignment of std::string where there are none.
-  -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-array-bounds -Wno-stringop-overflow>
   $<$<BOOL:${ORREVA_WERROR}>:-Werror>)
 
 # Formulas are computed in the order written: no fused multiply-add, no reassociation.
