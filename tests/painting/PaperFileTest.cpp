@@ -73,4 +73,13 @@ TEST(PaperFile, ThePaperIsTheCountrys)
     EXPECT_STREQ("Letter", PaperOfLocale(QLocale("fr_CA")).name);
 }
 
+TEST(PaperFile, APageLeavesThePainterAsItWas)
+{
+    QImage image(100, 100, QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QTransform before = painter.transform();
+    PaintPaperPage(painter, {20, 30, [](Surface&) {}}, 2);
+    EXPECT_EQ(before, painter.transform()) << "or the next page would be smaller";
+}
+
 } // namespace
