@@ -65,6 +65,11 @@ TEST_F(PaperCommands, ThePictureOfAWindowTakesTheWordOfTheCommandBefore)
     EXPECT_EQ("<svg/>", folder.Read("curve.svg"));
     EXPECT_TRUE(Status().endsWith("curve.svg"));
     EXPECT_FALSE(Status().contains("noname"));
+    // So does one that fails.
+    Choose(id::kSave);
+    ExportFile(app->Document(), QString::fromStdString(folder / "missing/curve.svg"), "<svg/>");
+    EXPECT_TRUE(Status().contains("missing/curve.svg")) << Status().toStdString();
+    EXPECT_FALSE(Status().contains("noname")) << Status().toStdString();
 }
 
 TEST_F(PaperCommands, AReportThatCannotBeWrittenIsTold)
