@@ -4,15 +4,15 @@
 #include "pages/sheet/Help.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QKeyEvent>
+#include <QWidget>
 
 HelpKey::HelpKey() { qApp->installEventFilter(this); }
 
 bool HelpKey::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1 &&
-        qobject_cast<QDialog*>(watched) != nullptr) {
+        watched->isWidgetType() && static_cast<QWidget*>(watched)->isWindow()) {
         const QVariant number = watched->property(kDialogId);
         if (number.isValid()) {
             WinHelp(number.toInt(), kHelpContext);

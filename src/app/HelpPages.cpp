@@ -40,6 +40,15 @@ constexpr Page kPages[] = {
     {135, &HelpAddresses::manualBase, "Benutzeroberfläche/Reiter_Schwerpunkt",
      "Benutzeroberfläche/Reiter_Schwerpunkt"},
     {151, &HelpAddresses::manualBase, "Benutzeroberfläche/Papier", "Benutzeroberfläche/Papier"},
+    {152, &HelpAddresses::manualBase, "Benutzeroberfläche/Befehle_Werkzeuge",
+     "Benutzeroberfläche/Befehle_Werkzeuge"},
+    {153, &HelpAddresses::manualBase, "Benutzeroberfläche/Befehle_Werkzeuge",
+     "Benutzeroberfläche/Befehle_Werkzeuge"},
+    {154, &HelpAddresses::manualBase, "Benutzeroberfläche/Befehle_Werkzeuge",
+     "Benutzeroberfläche/Befehle_Werkzeuge"},
+    {155, &HelpAddresses::manualBase, "Benutzeroberfläche/Befehle_Bearbeiten",
+     "Benutzeroberfläche/Befehle_Bearbeiten"},
+    {156, &HelpAddresses::manualBase, "Benutzeroberfläche/Befehle_Datei", "Benutzeroberfläche/Befehle_Datei"},
 };
 
 QUrl LocalPage(const HelpAddresses& addresses, const char* page)

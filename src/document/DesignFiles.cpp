@@ -60,6 +60,10 @@ bool DesignFiles::KeepOld(const std::string& path)
     if (!fs::is_regular_file(path, none) || access(path.c_str(), W_OK) != 0) {
         return true; // there is nothing to keep, or the save fails for a reason of its own
     }
+    if (access(path.c_str(), R_OK) != 0) {
+        m_outcome.error = errno; // what cannot be read cannot be kept
+        return false;
+    }
     // What stood under the other name goes, and may be the only one of its kind.
     const std::string kept = path + "~";
     KeepAmongCopies(kept);

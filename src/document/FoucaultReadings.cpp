@@ -41,6 +41,7 @@ void FoucaultReadings::Clear()
     m_book = {};
     m_modified = false;
     m_damaged.clear();
+    m_own.clear();
 }
 
 std::string FoucaultReadings::Open(const std::string& designPath, int language)
@@ -57,6 +58,7 @@ std::string FoucaultReadings::Open(const std::string& designPath, int language)
         return AboutFile(kDamagedReadings, path, language);
     }
     m_book = *book;
+    m_own = path;
     return {};
 }
 
@@ -75,10 +77,13 @@ std::string FoucaultReadings::Save(const std::string& designPath, int language)
             return AboutFile(kNotSaved, path, language);
         }
         m_damaged.clear();
+    } else if (stands && path != m_own && CopyFileBeside(path, path + "~") != 0) {
+        return AboutFile(kNotSaved, path, language);
     }
     if (!ReplaceFile(path.c_str(), BookText(m_book))) {
         return AboutFile(kNotSaved, path, language);
     }
+    m_own = path;
     m_modified = false;
     return {};
 }

@@ -21,12 +21,13 @@ public:
     /// empty if all is well. Without a file, or with a damaged one, the book is empty.
     std::string Open(const std::string& designPath, int language);
     /// Writes the book beside a design, whole or not at all. A book that is empty makes no file where none
-    /// stands. What the status bar tells; empty if all is well. A damaged file that the book replaces stays
-    /// beside it, its name with a "~".
+    /// stands. What the status bar tells; empty if all is well. A file that the book replaces, damaged or
+    /// neither read nor written with this design, stays beside it, its name with a "~".
     std::string Save(const std::string& designPath, int language);
 
 private:
     ReadingBook m_book;
     bool m_modified = false;
     std::string m_damaged; ///< the path of the file that could not be read
+    std::string m_own;     ///< the path of the file that holds the book, or held it before a change
 };

@@ -612,6 +612,7 @@ void COrrevaDoc::OpenCopy(const RescueCopy& copy)
     active_record->Reset();
     EndBarTrial();
     PutState({design, copy.path, 1}, *active_record);
+    TellReadings(readings.Open(copy.path, g_nLanguage));
     SetDocumentTitle(active_record->file_path);
     Recalculate();
     NoteStep(kStepEarlier, StepKind::Replaces);

@@ -106,13 +106,18 @@ std::string RescueCopies::Keep(RescueReason reason, std::string_view bytes, cons
     if (!WriteCopy(id, note, bytes)) {
         return "";
     }
-    Prune();
+    Prune(id);
     return FileOf(id, kDesignEnding);
 }
 
 std::string RescueCopies::Keep(RescueReason reason, const COrrevaData& record)
 {
-    return Keep(reason, WriteTelescope(record), record.GetTitle().GetText(), record.file_path.GetText());
+    const std::string file =
+        Keep(reason, WriteTelescope(record), record.GetTitle().GetText(), record.file_path.GetText());
+    if (file.empty()) {
+        LeaveLive(); // on a full disk, it is all that there is of the design
+    }
+    return file;
 }
 
 std::string RescueCopies::KeepReplaced(std::string_view bytes, const std::string& path)
@@ -130,11 +135,14 @@ bool RescueCopies::WriteCopy(const std::string& id, const RescueNote& note, std:
     if (!MakeFolder()) {
         return false;
     }
+    const bool fresh = FileExists(FileOf(id, kNoteEnding).c_str()) == 0;
     // A note makes a copy of the file, so that it comes last.
     const SaveOutcome design = ReplaceFile(FileOf(id, kDesignEnding).c_str(), bytes);
     const SaveOutcome noted = design ? ReplaceFile(FileOf(id, kNoteEnding).c_str(), note.Text()) : design;
     if (!noted) {
-        Remove(id);
+        if (fresh) {
+            Remove(id); // an earlier state of the live copy stays
+        }
         return Fail(noted.error);
     }
     return true;
@@ -209,6 +217,15 @@ void RescueCopies::DropLive()
     }
 }
 
+/// Lets go of the live copy, which stays as one that a crash left behind.
+void RescueCopies::LeaveLive()
+{
+    if (m_lock >= 0 && FileExists(FileOf(m_liveId, kNoteEnding).c_str()) != 0) {
+        unlink(FileOf(m_liveId, kLockEnding).c_str());
+        close(std::exchange(m_lock, -1));
+    }
+}
+
 void RescueCopies::Remove(const std::string& id) const
 {
     // The note first: without it the design file is no copy.
@@ -280,13 +297,16 @@ std::optional<RescueCopy> RescueCopies::TakeNews()
     return news;
 }
 
-void RescueCopies::Prune() const
+/// A copy that was just made stays, whatever the times in the others' notes say.
+void RescueCopies::Prune(const std::string& fresh) const
 {
+    std::vector<Entry> entries = Entries();
+    std::ranges::stable_partition(entries, [&](const Entry& entry) { return entry.id == fresh; });
     std::size_t count = 0;
     std::uint64_t bytes = 0;
-    for (const Entry& entry : Entries()) {
+    for (const Entry& entry : entries) {
         bytes += entry.bytes;
-        if (++count > kMostCopies || bytes > kMostBytes) {
+        if ((++count > kMostCopies || bytes > kMostBytes) && entry.id != fresh) {
             Remove(entry.id);
             unlink(FileOf(entry.id, kLockEnding).c_str());
         }

@@ -52,6 +52,7 @@ public:
     /// Keeps the bytes of a design file. Gives the path of the copy, empty if it cannot be kept.
     std::string Keep(RescueReason reason, std::string_view bytes, const std::string& title,
                      const std::string& path);
+    /// The same of a record's design. If it cannot be kept, the live copy is left behind in its place.
     std::string Keep(RescueReason reason, const COrrevaData& record);
     /// Keeps the bytes of the file at `path`, which is about to be written over.
     std::string KeepReplaced(std::string_view bytes, const std::string& path);
@@ -82,9 +83,10 @@ private:
     bool Fail(int error);
     bool MakeFolder();
     bool TakeLock();
+    void LeaveLive();
     bool IsRunning(const std::string& id) const;
     void Remove(const std::string& id) const;
-    void Prune() const;
+    void Prune(const std::string& fresh = "") const;
     void RemoveRemains() const;
 
     std::string m_folder;

@@ -11,9 +11,7 @@ constexpr Bilingual kSummaryPaneTitle{"design summary", "Übersicht"_cp1252};
 
 } // namespace
 
-CLeftView::CLeftView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, kSummaryPaneTitle, parent)
-{
-}
+CLeftView::CLeftView(COrrevaDoc& doc, QWidget* parent) : CPane(doc, kSummaryPaneTitle, parent) {}
 
 void CLeftView::PaintAt(Surface& surface, std::int32_t fontHeight)
 {

@@ -7,6 +7,7 @@
 #include "model/analysis/Comparison.h"
 #include "views/ResultList.h"
 #include "windows/SectionPair.h"
+#include "windows/ToolWindow.h"
 #include "windows/WindowText.h"
 
 #include <QCheckBox>
@@ -81,7 +82,7 @@ CCompareWindow::CCompareWindow(QWidget* parent)
     column->addWidget(m_sections, 2);
     column->addWidget(m_list, 3);
     column->addLayout(buttons);
-    resize(820, 560);
+    PrepareToolWindow(*this, {820, 560}, WindowHelp::Compare);
 }
 
 void CCompareWindow::ShowPresent(const TelescopeFields& fields)

@@ -2,6 +2,7 @@
 
 #include "lib/text/CodePage.h"
 #include "windows/SeverityMark.h"
+#include "windows/ToolWindow.h"
 #include "windows/WindowText.h"
 
 #include <QHeaderView>
@@ -52,7 +53,7 @@ CDesignCheckWindow::CDesignCheckWindow(QWidget* parent)
     auto* const column = new QVBoxLayout(this);
     column->addWidget(m_message);
     column->addWidget(m_table, 1);
-    resize(720, 300);
+    PrepareToolWindow(*this, {720, 300}, WindowHelp::Check);
     ShowNothing();
 }
 

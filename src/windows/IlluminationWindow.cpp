@@ -8,6 +8,7 @@
 #include "views/ResultList.h"
 #include "windows/ChartView.h"
 #include "windows/PicturePath.h"
+#include "windows/ToolWindow.h"
 #include "windows/WindowText.h"
 
 #include <QFile>
@@ -74,7 +75,7 @@ CIlluminationWindow::CIlluminationWindow(std::vector<Eyepiece> eyepieces, QWidge
     new QVBoxLayout(this);
     MakeCharts();
     MakeButtons();
-    resize(1000, 720);
+    PrepareToolWindow(*this, {1000, 720}, WindowHelp::Illumination);
     ShowNothing();
 }
 

@@ -8,6 +8,7 @@
 #include "painting/PictureFile.h"
 #include "windows/ChartView.h"
 #include "windows/PicturePath.h"
+#include "windows/ToolWindow.h"
 #include "windows/VariationRun.h"
 #include "windows/WindowText.h"
 
@@ -76,7 +77,7 @@ CVariationWindow::CVariationWindow(QWidget* parent)
     column->addWidget(m_chart, 1);
     column->addWidget(m_told);
     MakeButtons();
-    resize(860, 640);
+    PrepareToolWindow(*this, {860, 640}, WindowHelp::Variation);
 
     connect(m_run, &CVariationRun::Progress, m_progress, &QProgressBar::setValue);
     connect(m_run, &CVariationRun::Finished, this, &CVariationWindow::Take);

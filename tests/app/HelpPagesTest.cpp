@@ -40,6 +40,16 @@ TEST(HelpPages, EachContextHasItsPage)
         {135, "https://example.org/wiki/Handbuch/Benutzeroberfläche/Reiter_Schwerpunkt",
          "Benutzeroberfläche/Reiter_Schwerpunkt"},
         {151, "https://example.org/wiki/Handbuch/Benutzeroberfläche/Papier", "Benutzeroberfläche/Papier"},
+        {152, "https://example.org/wiki/Handbuch/Benutzeroberfläche/Befehle_Werkzeuge",
+         "Benutzeroberfläche/Befehle_Werkzeuge"},
+        {153, "https://example.org/wiki/Handbuch/Benutzeroberfläche/Befehle_Werkzeuge",
+         "Benutzeroberfläche/Befehle_Werkzeuge"},
+        {154, "https://example.org/wiki/Handbuch/Benutzeroberfläche/Befehle_Werkzeuge",
+         "Benutzeroberfläche/Befehle_Werkzeuge"},
+        {155, "https://example.org/wiki/Handbuch/Benutzeroberfläche/Befehle_Bearbeiten",
+         "Benutzeroberfläche/Befehle_Bearbeiten"},
+        {156, "https://example.org/wiki/Handbuch/Benutzeroberfläche/Befehle_Datei",
+         "Benutzeroberfläche/Befehle_Datei"},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(QString::fromUtf8(row.web), HelpPage(row.data, 1, OnTheWeb()).toString());

@@ -1,5 +1,6 @@
 #include "app/AppFixture.h"
 
+#include "document/Commands.h"
 #include "pages/sheet/PropertySheet.h"
 #include "views/ResultList.h"
 #include "windows/CompareWindow.h"
@@ -116,6 +117,33 @@ TEST_F(ToolWindows, F8OpensTheCheck)
     QTest::keyClick(&app->Frame(), Qt::Key_F8);
     ASSERT_NE(nullptr, Find<CDesignCheckWindow>());
     EXPECT_TRUE(Find<CDesignCheckWindow>()->isVisible());
+}
+
+TEST_F(ToolWindows, F1AsksForHelpOnTheWindowAndNoneIsLargerThanTheScreen)
+{
+    MakeTelescope();
+    const struct {
+        int command;
+        const char* window;
+        const char* page;
+    } rows[] = {
+        {command_id::kDesignCheck, "designCheckWindow", "Befehle_Werkzeuge.html"},
+        {command_id::kVariation, "variationWindow", "Befehle_Werkzeuge.html"},
+        {command_id::kIllumination, "illuminationWindow", "Befehle_Bearbeiten.html"},
+    };
+    for (const auto& row : rows) {
+        Choose(row.command);
+        auto* const window = app->Frame().findChild<QWidget*>(row.window);
+        ASSERT_NE(nullptr, window) << row.window;
+        const QSize screen = window->screen()->availableSize();
+        EXPECT_LE(window->frameSize().width(), screen.width()) << row.window;
+        EXPECT_LE(window->frameSize().height(), screen.height()) << row.window;
+        QTest::keyClick(window, Qt::Key_F1);
+        ASSERT_FALSE(helpPages.empty()) << row.window;
+        EXPECT_TRUE(helpPages.back().toString().endsWith(row.page))
+            << helpPages.back().toString().toStdString();
+        helpPages.clear();
+    }
 }
 
 TEST_F(ToolWindowsGerman, TheCheckIsGerman)

@@ -3,16 +3,20 @@
 #include "document/RescueCopies.h"
 #include "document/TelescopeFile.h"
 #include "lib/text/Language.h"
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
 
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -117,6 +121,24 @@ TEST_F(DesignFilesTest, NothingIsReplacedThatCannotBeKept)
     fs::create_directory(folder / "b.orreva.xml~");
     EXPECT_TRUE(files.Save("b.orreva.xml", Design("new")));
     EXPECT_EQ(Strings{"replaced old"}, Kept());
+}
+
+TEST_F(DesignFilesTest, AFileThatMayNotBeReadIsNotReplaced)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can become somebody else";
+    }
+    chmod(folder.Path().c_str(), 0777);
+    chmod(folder.Write("a", "old").c_str(), 0222);
+    const pid_t child = fork();
+    if (child == 0) {
+        BecomeOrdinaryUser();
+        std::_Exit(files.Save("a", "new").error);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(EACCES, WEXITSTATUS(status));
+    EXPECT_EQ("old", folder.Read("a"));
 }
 
 TEST_F(DesignFilesTest, WithoutCopiesNothingIsKept)

@@ -2,6 +2,7 @@
 
 #include "document/OrrevaDoc.h"
 
+#include "document/RescueCopies.h"
 #include "support/RecordingHost.h"
 #include "support/TemporaryFolder.h"
 
@@ -66,6 +67,31 @@ TEST_F(DesignReadings, AreSavedAndOpenedWithIt)
     Open(folder / "mine.orreva.xml");
     EXPECT_EQ(Book("A"), doc.readings.Book());
     EXPECT_EQ(0, doc.main_record.modified);
+}
+
+TEST_F(DesignReadings, ComeWithAnEarlierDesignFromBesideItsPath)
+{
+    InSheet(Book("A"));
+    doc.BeginCommand();
+    doc.OnFileSave();
+    RescueCopies copies(folder / "rescue");
+    doc.KeepCopies(&copies);
+    copies.Keep(RescueReason::Discarded, doc.main_record);
+    host.quick_new.push_back(kQuickNewTexts);
+    doc.BeginCommand();
+    doc.OnFileNewQuick();
+    doc.main_record.SaveAs((folder / "other.orreva.xml").c_str());
+    InSheet(Book("B"));
+    host.yes_no.push_back(false);
+    host.earlier = 0;
+    doc.BeginCommand();
+    doc.OnEarlierDesigns();
+    EXPECT_EQ(folder / "mine.orreva.xml", std::string(doc.main_record.file_path.GetText()));
+    EXPECT_EQ(Book("A"), doc.readings.Book());
+    doc.BeginCommand();
+    doc.OnFileSave();
+    EXPECT_EQ(BookText(Book("A")), folder.Read("mine.foucault.csv"));
+    doc.KeepCopies(nullptr);
 }
 
 TEST_F(DesignReadings, AreSavedWhenThePromptIsAnsweredWithYes)

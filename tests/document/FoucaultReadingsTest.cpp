@@ -39,6 +39,25 @@ TEST_F(FoucaultReadingsTest, AreWrittenBesideTheDesignAndComeBack)
     EXPECT_FALSE(other.IsModified());
 }
 
+TEST_F(FoucaultReadingsTest, ReadingsOfAnotherDesignStayUnderTheirNameWithATilde)
+{
+    folder.Write("mine.foucault.csv", "somebody's");
+    readings.Change(Sample());
+    EXPECT_EQ("", readings.Save(design, kEnglish));
+    EXPECT_EQ("somebody's", folder.Read("mine.foucault.csv~"));
+    EXPECT_EQ(BookText(Sample()), folder.Read("mine.foucault.csv"));
+    // One's own are replaced without.
+    folder.Write("mine.foucault.csv~", "kept");
+    readings.Change({});
+    EXPECT_EQ("", readings.Save(design, kEnglish));
+    EXPECT_EQ("kept", folder.Read("mine.foucault.csv~"));
+    FoucaultReadings other;
+    other.Open(design, kEnglish);
+    other.Change(Sample());
+    EXPECT_EQ("", other.Save(design, kEnglish));
+    EXPECT_EQ("kept", folder.Read("mine.foucault.csv~"));
+}
+
 TEST_F(FoucaultReadingsTest, AMissingFileIsToldAndTheBookIsEmpty)
 {
     readings.Change(Sample());

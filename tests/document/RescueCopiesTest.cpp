@@ -1,5 +1,6 @@
 #include "document/RescueCopies.h"
 
+#include "document/RescueNote.h"
 #include "document/TelescopeFile.h"
 #include "model/record/OrrevaData.h"
 #include "support/Environment.h"
@@ -10,10 +11,12 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -114,6 +117,69 @@ TEST(RescueCopies, TheNewestFiftyStay)
     EXPECT_EQ("52", titles.front());
     EXPECT_EQ("3", titles.back());
     EXPECT_EQ(100, folder.Count()) << "a design and a note each";
+}
+
+TEST(RescueCopies, ACopyThatWasJustMadeStaysWhateverTheOthersTimes)
+{
+    const TemporaryFolder folder;
+    RescueCopies copies(folder.Path());
+    for (int i = 0; i < 50; ++i) { // kept while the clock went wrong
+        RescueNote note = RescueNote::Now();
+        note.nanoseconds += 1'000'000'000'000'000;
+        note.reason = "discarded";
+        char id[40];
+        std::snprintf(id, sizeof id, "%016llx-%08x", static_cast<unsigned long long>(note.nanoseconds), i);
+        folder.Write(std::string(id) + ".orreva.xml", Design("future"));
+        folder.Write(std::string(id) + ".note", note.Text());
+    }
+    ASSERT_EQ(50u, copies.List().size());
+    const std::string file = copies.Keep(RescueReason::Replaced, Design("now"), "now", "x");
+    EXPECT_TRUE(fs::exists(file));
+    const Strings titles = Titles(copies);
+    EXPECT_EQ(50u, titles.size());
+    EXPECT_EQ("now", titles.back());
+}
+
+/// While one lives, no file may grow beyond a few bytes: a disk that is full.
+class FullDisk {
+public:
+    FullDisk()
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit few = {10, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &few);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before{};
+};
+
+TEST(RescueCopies, OnAFullDiskTheLiveCopyIsLeftBehind)
+{
+    const TemporaryFolder folder;
+    COrrevaData record;
+    record.SetTitle("first");
+    {
+        RescueCopies copies(folder.Path());
+        ASSERT_TRUE(copies.WriteLive(record));
+        {
+            const FullDisk full;
+            record.SetTitle("second");
+            EXPECT_FALSE(copies.WriteLive(record));
+            EXPECT_EQ(3, folder.Count()) << "the state before stays, with its note and its lock";
+            EXPECT_EQ("", copies.Keep(RescueReason::NotSaved, record));
+        }
+        EXPECT_EQ(EFBIG, copies.TakeFailure());
+        copies.DropLive(); // the program ends in order
+    }
+    RescueCopies next(folder.Path());
+    EXPECT_EQ(Strings{"first"}, Titles(next));
+    const auto news = next.TakeNews();
+    ASSERT_TRUE(news);
+    EXPECT_EQ(RescueReason::Crash, news->reason);
 }
 
 TEST(RescueCopies, TwentyMegabytesStay)

@@ -24,8 +24,9 @@ CEarlierDesignsDialog::CEarlierDesignsDialog(std::span<const RescueCopy> copies,
     connect(list.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &CEarlierDesignsDialog::ShowChosen);
     connect(&list, &QAbstractItemView::doubleClicked, this, &QDialog::accept);
-    if (selected && *selected < copies.size()) {
-        list.setCurrentIndex(list.model()->index(static_cast<int>(*selected), 0));
+    const std::size_t first = selected.value_or(0); // the newest
+    if (first < copies.size()) {
+        list.setCurrentIndex(list.model()->index(static_cast<int>(first), 0));
     }
     ShowChosen();
 }
