@@ -58,6 +58,7 @@ constexpr Bilingual kStepNewDetailed{"New (detailed)", "Neu (ausführlich)"_cp12
 constexpr Bilingual kStepOpen{"Open", "Öffnen"_cp1252};
 constexpr Bilingual kStepImport{"Import", "Importieren"};
 constexpr Bilingual kStepProperties{"Properties", "Eigenschaften"};
+constexpr Bilingual kStepSuggest{"Suggest reasonable Values", "Sinnvolle Werte vorschlagen"};
 constexpr Bilingual kStepTube{"Properties (Tube)", "Eigenschaften Tubus"};
 constexpr Bilingual kStepEarlier{"Earlier design", "Früherer Entwurf"_cp1252};
 
@@ -442,12 +443,16 @@ void COrrevaDoc::NoteStep(const Bilingual& name, StepKind kind)
     bar_start.reset();
 }
 
-void COrrevaDoc::NoteApply()
+void COrrevaDoc::NoteWithinSheet(const Bilingual& step)
 {
     if (m_sheetStep.english != nullptr) {
-        NoteStep(m_sheetStep);
+        NoteStep(step);
     }
 }
+
+void COrrevaDoc::NoteApply() { NoteWithinSheet(m_sheetStep); }
+
+void COrrevaDoc::NoteSuggestion() { NoteWithinSheet(kStepSuggest); }
 
 void COrrevaDoc::OnUndo()
 {

@@ -79,6 +79,8 @@ public:
     void NoteStep(const Bilingual& name, StepKind kind = StepKind::Changes);
     /// Apply in the sheet that runs: a step under the name of its command.
     void NoteApply();
+    /// The same after Suggest on the balance page, which stores at once: a step by its own name.
+    void NoteSuggestion();
     const History& Steps() const { return m_history; }
     /// A trial of the what-if bar begins, and so does the step that accepts it.
     void StartBarTrial();
@@ -169,6 +171,8 @@ private:
     History m_history;
     RecordState m_before; ///< the record before the command or the last Apply, a trial included
     StatusLine m_status;
+    void NoteWithinSheet(const Bilingual& step);
+
     Bilingual m_sheetStep{nullptr, nullptr}; ///< the step of the sheet that runs
     std::string m_live;                      ///< what the live copy holds; empty for none
 };

@@ -50,6 +50,7 @@ void CMyPropertyPage08::Suggest()
     if (m_document.Host().AskYesNo(kSuggestQuestion.In(g_nLanguage))) {
         SuggestBalance(Record());
         Changed();
+        m_document.NoteSuggestion();
     }
 }
 

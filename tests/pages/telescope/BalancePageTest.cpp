@@ -205,6 +205,29 @@ TEST_F(BalancePage, SuggestionsNeedAYes)
     EXPECT_EQ(0.0, Record().GetBalanceMisc()) << "Cancel takes nothing back";
 }
 
+TEST_F(BalancePage, ASuggestionIsAStepOfItsOwn)
+{
+    MakeMeasuredTelescope();
+    app->Document().BeginCommand();
+    Record().SetWeightCell(1);
+    Record().SetBalanceMisc(77);
+    app->Document().NoteStep({"Weights", "Gewichte"});
+    InSheet([this](CMyPropertySheet0& sheet) {
+        CPropertyPage& page = Visit(sheet, kBalance);
+        InNextDialog<QMessageBox>(
+            BoxWith("This overwrites the existing Data.\n\nProceed?", QMessageBox::Yes));
+        Click(page, 1007);
+    });
+    ASSERT_EQ(0.0, Record().GetBalanceMisc());
+    const Bilingual* const step = app->Document().Steps().UndoName();
+    ASSERT_NE(nullptr, step);
+    EXPECT_STREQ("Suggest reasonable Values", step->english);
+    app->Document().OnUndo();
+    EXPECT_EQ(77.0, Record().GetBalanceMisc());
+    EXPECT_EQ(1.0, Record().GetWeightCell());
+    EXPECT_STREQ("Weights", app->Document().Steps().UndoName()->english);
+}
+
 TEST_F(BalancePageGerman, TheQuestionIsGerman)
 {
     MakeMeasuredTelescope();
