@@ -112,7 +112,7 @@ std::string RescueCopies::Keep(RescueReason reason, std::string_view bytes, cons
 
 std::string RescueCopies::Keep(RescueReason reason, const COrrevaData& record)
 {
-    const std::string file =
+    std::string file =
         Keep(reason, WriteTelescope(record), record.GetTitle().GetText(), record.file_path.GetText());
     if (file.empty()) {
         LeaveLive(); // on a full disk, it is all that there is of the design
@@ -301,7 +301,8 @@ std::optional<RescueCopy> RescueCopies::TakeNews()
 void RescueCopies::Prune(const std::string& fresh) const
 {
     std::vector<Entry> entries = Entries();
-    std::ranges::stable_partition(entries, [&](const Entry& entry) { return entry.id == fresh; });
+    std::stable_partition(entries.begin(), entries.end(),
+                          [&](const Entry& entry) { return entry.id == fresh; });
     std::size_t count = 0;
     std::uint64_t bytes = 0;
     for (const Entry& entry : entries) {
